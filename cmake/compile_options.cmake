@@ -1,0 +1,17 @@
+# What every target of the project is compiled with.
+add_library(zephyl_options INTERFACE)
+target_compile_options(zephyl_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Werror
+  # Texts go into fixed buffers and are cut there on purpose.
+  $<$<CXX_COMPILER_ID:GNU>:-Wno-format-truncation>
+  # Digits must not depend on whether the compiler fuses a product and a sum.
+  -ffp-contract=off)
+target_include_directories(zephyl_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+
+if(ZEPHYL_SANITIZE)
+  set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  # Division of floating-point numbers by zero is part of the calculator's contract: it is read from the status flags.
+  list(APPEND sanitizers -fno-sanitize=float-divide-by-zero)
+  target_compile_options(zephyl_options INTERFACE ${sanitizers})
+  target_link_options(zephyl_options INTERFACE ${sanitizers})
+endif()

@@ -1,0 +1,1 @@
+# One program a driver: src/platform/<driver>/ with src/app/main_<driver>.cpp.

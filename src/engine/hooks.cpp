@@ -1,0 +1,7 @@
+#include "engine/hooks.h"
+
+namespace zephyl {
+
+THooks hooks;
+
+}  // namespace zephyl

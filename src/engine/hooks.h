@@ -1,0 +1,66 @@
+// The few calls that go upward: what the engine asks of folders above it. Each hook does nothing (or gives the value
+// in its comment) until its owner puts a function in, at start.
+#pragma once
+
+#include <cstddef>
+
+#include "engine/values.h"
+
+namespace zephyl {
+
+// Indicators that can be repainted by themselves.
+enum TScreenPart {
+  PART_AC_AND_ARROWS = 0, PART_SHIFTS, PART_ORANGE, PART_BLUE, PART_HYP, PART_ALPHA_SHIFT, PART_STATS_VAR, PART_REGRESSION,
+  PART_BASE_TYPE, PART_ANGLE, PART_BASE_BITS, PART_RUN, PART_PLOT_LEDS, PART_TRACE_LEDS
+};
+
+// What a tap at a point would be, for the poll of a long evaluation.
+enum TTapKind { TAP_NO_KEY, TAP_CANCEL_PROOF_KEY, TAP_KEY };
+
+// A unit of the conversion table; result = (x - from.offset) * from.factor / to.factor + to.offset.
+struct TUnit {
+  const char* short_name;
+  double factor;
+  double offset;
+};
+
+struct TRunningProgram {
+  const char* name;
+  int statement;  // current statement number, from 0
+  bool paused;    // stands at a prompt or a pause
+};
+
+struct THooks {
+  // faceplate
+  void (*draw_expression)(bool with_cursor) = [](bool) {};
+  void (*draw_result)(bool home) = [](bool) {};
+  void (*redraw_part)(TScreenPart part) = [](TScreenPart) {};
+  void (*redraw_title)() = [] {};
+  void (*set_mode)(int mode, bool ask) = nullptr;  // null: the mode is only stored
+  TTapKind (*tap_kind)(int x, int y) = [](int, int) { return TAP_KEY; };
+  // plot
+  void (*plot_changed)() = [] {};         // the plot must be drawn again
+  void (*request_plot_redraw)() = [] {};  // a drawing operation ran
+  // stats: value 0 to 20, reports its own errors. Null: ERR_UNEXPECTED.
+  double (*statistics_value)(int index) = nullptr;
+  // numerics: a uniform random number, for the random operand
+  double (*next_random)() = [] { return 0.0; };
+  // persistence: a unit by its code; null for an unknown one.
+  const TUnit* (*unit_by_code)(int code) = [](int) -> const TUnit* { return nullptr; };
+  // The code of the unit at a position of the property that the unit `code` belongs to; -1 unknown.
+  int (*unit_at_position)(int code, int position) = [](int, int) { return -1; };
+  // Finds two units of one property by their short names; false if there are none. For the text form.
+  bool (*find_units)(const char* from, std::size_t from_length, const char* to, std::size_t to_length, int& from_code,
+                     int& to_position) = nullptr;
+  // programs
+  bool (*running_program)(TRunningProgram& program) = [](TRunningProgram&) { return false; };
+  // Before a matrix, list or string store changes: slot 90 to 129.
+  void (*about_to_store)(int slot) = [](int) {};
+  // The value that an `in` statement waits for has arrived.
+  void (*prompt_answered)() = [] {};
+  // Any owner: clears item n of TClearItem that the engine does not hold.
+  void (*clear_item)(int n) = [](int) {};
+};
+extern THooks hooks;
+
+}  // namespace zephyl
