@@ -5,7 +5,9 @@ target_compile_options(zephyl_options INTERFACE
   # Texts go into fixed buffers and are cut there on purpose.
   $<$<CXX_COMPILER_ID:GNU>:-Wno-format-truncation>
   # Digits must not depend on whether the compiler fuses a product and a sum.
-  -ffp-contract=off)
+  -ffp-contract=off
+  # Floating-point flags are read after operations.
+  $<$<CXX_COMPILER_ID:Clang>:-ffp-exception-behavior=maytrap>)
 target_include_directories(zephyl_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 
 if(ZEPHYL_SANITIZE)

@@ -1,1 +1,30 @@
-# One program a driver: src/platform/<driver>/ with src/app/main_<driver>.cpp.
+# One program a driver: src/platform/<driver>/ as a library, so that tests can reach it, and src/app/main_<driver>.cpp.
+function(zephyl_driver driver)
+  file(GLOB_RECURSE driver_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/platform/${driver}/*.cpp)
+  add_library(zephyl_${driver}_driver STATIC ${driver_sources})
+  target_link_libraries(zephyl_${driver}_driver PUBLIC zephyl_core ${ARGN})
+endfunction()
+
+function(zephyl_program program driver)
+  add_executable(${program} ${CMAKE_SOURCE_DIR}/src/app/main_${driver}.cpp)
+  target_link_libraries(${program} PRIVATE zephyl_${driver}_driver)
+endfunction()
+
+# Commands on standard input; zlib packs its PNG files.
+find_package(ZLIB REQUIRED)
+zephyl_driver(script ZLIB::ZLIB)
+zephyl_program(zephyl-script script)
+
+# Expressions in a terminal, with line editing by GNU readline.
+find_path(READLINE_INCLUDE readline/readline.h REQUIRED)
+find_library(READLINE_LIBRARY readline REQUIRED)
+zephyl_driver(console ${READLINE_LIBRARY})
+target_include_directories(zephyl_console_driver SYSTEM PRIVATE ${READLINE_INCLUDE})
+zephyl_program(zephyl-console console)
+
+# The window.
+if(ZEPHYL_WINDOW)
+  find_package(Qt6 REQUIRED COMPONENTS Widgets)
+  zephyl_driver(desktop Qt6::Widgets)
+  zephyl_program(zephyl desktop)
+endif()

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "engine/operation_codes.h"
+#include "engine/real_rule.h"
 #include "engine/values.h"
 
 namespace zephyl {
@@ -32,6 +33,7 @@ struct TOperand {
 };
 
 struct TOperationHandlers;
+struct TRegister;
 
 // How the walk may run a step.
 enum TStepPath : std::uint8_t {
@@ -41,7 +43,11 @@ enum TStepPath : std::uint8_t {
 
 struct TStep {
   // Resolved by link_steps, read by the walk.
-  const TValue* cell[2] = {nullptr, nullptr};
+  const TValue* cell[2] = {nullptr, nullptr};  // of a PATH_SCALAR step never null: an unused one is a zero
+  TRegister* out = nullptr;
+  TRealRule real = nullptr;
+  TRealUse real_use = REAL_NEVER;  // REAL_NEVER where `real` is null
+  bool reads_flags = false;        // the real rule may fault although its result is finite
   const TOperationHandlers* handlers = nullptr;
   TStepPath path = PATH_GENERAL;
   std::uint8_t arg_kind = 0;
@@ -56,6 +62,11 @@ struct TStep {
   std::uint16_t unit_to = 0;
   bool unit_by_position = false;
   std::uint8_t name = NO_NAME;  // index into TCompiled::names
+  // Of a numeric operator: the first step of its body. Where the body is plain numbers and the other arguments need no
+  // steps, also the end of the body's steps and the place of its value; else null.
+  std::int16_t body_start = 0;
+  std::int16_t body_end = 0;
+  const TValue* body_value = nullptr;
   std::uint16_t nest = NO_NEST;
   std::uint16_t group_level = 0;  // level of the parenthesis group whose keys start at `key`
   std::uint64_t key = 0;  // position key
@@ -65,7 +76,8 @@ struct TStep {
 struct TCompiled {
   TStep steps[STEP_LIMIT];
   int count = 0;
-  bool single = false;  // no operator at all: `only` is the value
+  bool all_plain = false;  // every step is PATH_SCALAR
+  bool single = false;     // no operator at all: `only` is the value
   TOperand only;
   int error = NO_COMPILE_ERROR;  // reported again by each run
   int frame_count = 0;

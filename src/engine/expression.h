@@ -31,16 +31,18 @@ struct THistory {
 };
 extern THistory history;
 
-// Expressions that other expressions name: plot functions and f1() to f9(), by token minus FIRST_FUNCTION_READ.
-// 0 to 5 f1(x).., 6 to 11 R1(theta).., 12 to 17 X1(t), Y1(t), X2(t).., 21 to 29 f1()..f9().
+// Expressions that other expressions name: plot functions and f1() to f9(), by token minus
+// FIRST_FUNCTION_READ. 0 to 5 f1(x).., 6 to 11 R1(theta).., 12 to 17 X1(t), Y1(t), X2(t).., 21 to 29
+// f1()..f9().
 constexpr int FUNCTION_SLOT_COUNT = 50;
 constexpr int FIRST_PROGRAM_FUNCTION = 21;
 extern TExpression function_slots[FUNCTION_SLOT_COUNT];
 // "f1(x)", "R2(theta)", "X1(t)", "f9()"; empty for a slot without a name.
 const char* function_slot_name(int slot);
 
-// Inserts a token at the cursor. After a result it starts a new expression, with the answer in front of an operator
-// that wants a left operand. silent: nothing is drawn. Returns false, with a note, when the line is full.
+// Inserts a token at the cursor. After a result it starts a new expression, with the answer in front of an
+// operator that wants a left operand. silent: nothing is drawn. Returns false, with a note, when the line is
+// full.
 bool insert_token(bool silent, TToken token);
 void delete_token();
 // big: a fifth of the line. Both clear the standing error and go back to editing after a result.
@@ -51,15 +53,15 @@ void cursor_to(int position);
 // Empties the line; draws nothing.
 void clear_entry_line();
 
-// Each checks in advance that all its tokens fit, else shows the limit note and inserts nothing; returns whether
-// they went in.
-// A number's text in parentheses, with the glyph codes of small text; numeric_only cuts it at the first character
-// that can't belong to a plain number.
+// Each checks in advance that all its tokens fit, else shows the limit note and inserts nothing; returns
+// whether they went in. A number's text in parentheses, with the glyph codes of small text; numeric_only cuts
+// it at the first character that can't belong to a plain number.
 bool insert_constant_string(const char* text, bool numeric_only);
 // A call of the custom function `text`: token 181 or 182 with the name's characters behind it.
 bool insert_name_tokens(const char* text, TToken token);
 bool insert_string_tokens(const char* text);
-// tvmPmt( to tvmFV(, tokens 1250 to 1254, with the solver's variables as arguments; the cursor stays in front.
+// tvmPmt( to tvmFV(, tokens 1250 to 1254, with the solver's variables as arguments; the cursor stays in
+// front.
 bool insert_tvm_call(TToken token);
 // from: the unit's code; position: of the target within the property.
 bool insert_conversion(int from, int position);

@@ -30,6 +30,14 @@ struct TRunningProgram {
   bool paused;    // stands at a prompt or a pause
 };
 
+struct TFuncFrame;
+
+// What a custom function's first statement declares.
+struct TFunctionHeader {
+  int count = 0;      // of arguments, 0 to 6
+  int slots[6] = {};  // the memory slot each goes to; its class is the argument's type
+};
+
 struct THooks {
   // faceplate
   void (*draw_expression)(bool with_cursor) = [](bool) {};
@@ -54,8 +62,15 @@ struct THooks {
                      int& to_position) = nullptr;
   // programs
   bool (*running_program)(TRunningProgram& program) = [](TRunningProgram&) { return false; };
+  // The header of a custom function; false if there is no such program. Null: there are no programs at all.
+  bool (*function_header)(const char* name, TFunctionHeader& header) = nullptr;
+  // Runs a custom function with its arguments to the end, with the evaluator's state saved; its value is left in the
+  // answers. Reports its own errors.
+  void (*run_function)(const char* name, const TFuncFrame& arguments) = [](const char*, const TFuncFrame&) {};
   // Before a matrix, list or string store changes: slot 90 to 129.
   void (*about_to_store)(int slot) = [](int) {};
+  // A list, matrix or string store (slot 90 to 129) keeps its value when the running program ends.
+  void (*make_global)(int slot) = [](int) {};
   // The value that an `in` statement waits for has arrived.
   void (*prompt_answered)() = [] {};
   // Any owner: clears item n of TClearItem that the engine does not hold.

@@ -16,8 +16,9 @@ TAnswers answers;
 namespace {
 
 const char* const greek_names[GREEK_COUNT] = {
-    "alpha", "beta", "gamma", "delta", "epsilon", "zeta", "eta", "theta", "kappa", "lambda", "mu", "nu", "xi", "rho",
-    "sigma 0", "sigma 1", "tau", "upsilon", "phi", "psi", "omega", "Gamma", "Delta", "Lambda", "Pi", "Phi", "Psi", "Omega"};
+    "alpha", "beta",  "gamma", "delta",  "epsilon", "zeta",    "eta", "theta",   "kappa", "lambda",
+    "mu",    "nu",    "xi",    "rho",    "sigma 0", "sigma 1", "tau", "upsilon", "phi",   "psi",
+    "omega", "Gamma", "Delta", "Lambda", "Pi",      "Phi",     "Psi", "Omega"};
 
 double* memory_part(int slot, int part) {
   if (part == 0) return &memory_array[slot].re;
@@ -57,9 +58,9 @@ TSlotClass slot_class(int slot) {
     int first, last;
     TSlotClass slot_class;
   };
-  constexpr TRange ranges[] = {{0, 9, CLASS_R},        {10, 35, CLASS_CAPITAL}, {36, 61, CLASS_SMALL},
-                               {62, 89, CLASS_GREEK},  {90, 99, CLASS_MATRIX},  {100, 109, CLASS_LIST},
-                               {110, 119, CLASS_FUNCTION}, {120, 129, CLASS_STRING}};
+  constexpr TRange ranges[] = {
+      {0, 9, CLASS_R},        {10, 35, CLASS_CAPITAL}, {36, 61, CLASS_SMALL},      {62, 89, CLASS_GREEK},
+      {90, 99, CLASS_MATRIX}, {100, 109, CLASS_LIST},  {110, 119, CLASS_FUNCTION}, {120, 129, CLASS_STRING}};
   for (const TRange& range : ranges)
     if (slot >= range.first && slot <= range.last) return range.slot_class;
   return CLASS_NONE;
@@ -71,19 +72,33 @@ const char* slot_name(int slot, bool long_form) {
   static char name[16];
   const auto print = [](const char* form, int code) { std::snprintf(name, sizeof name, form, code); };
   switch (slot_class(slot)) {
-    case CLASS_R: print("R%c", '0' + slot); break;
-    case CLASS_CAPITAL: print("%c", 'A' + slot - SLOT_CAPITAL_A); break;
-    case CLASS_SMALL: print("%c", 'a' + slot - SLOT_SMALL_A); break;
+    case CLASS_R:
+      print("R%c", '0' + slot);
+      break;
+    case CLASS_CAPITAL:
+      print("%c", 'A' + slot - SLOT_CAPITAL_A);
+      break;
+    case CLASS_SMALL:
+      print("%c", 'a' + slot - SLOT_SMALL_A);
+      break;
     case CLASS_GREEK:
       if (long_form)
         std::snprintf(name, sizeof name, "%s", greek_names[slot - SLOT_ALPHA]);
       else
         print("%c", slot + 82);  // the glyph of the letter
       break;
-    case CLASS_MATRIX: print("[%c]", 'A' + slot - SLOT_MATRIX_A); break;
-    case CLASS_LIST: print("{%c}", 'A' + slot - SLOT_LIST_A); break;
-    case CLASS_FUNCTION: print("f%c()", slot - 61); break;
-    case CLASS_STRING: print("str%c", slot - 71); break;
+    case CLASS_MATRIX:
+      print("[%c]", 'A' + slot - SLOT_MATRIX_A);
+      break;
+    case CLASS_LIST:
+      print("{%c}", 'A' + slot - SLOT_LIST_A);
+      break;
+    case CLASS_FUNCTION:
+      print("f%c()", slot - 61);
+      break;
+    case CLASS_STRING:
+      print("str%c", slot - 71);
+      break;
     case CLASS_NONE:
       report_error(ERR_UNEXPECTED);
       std::snprintf(name, sizeof name, "Error");
@@ -94,9 +109,9 @@ const char* slot_name(int slot, bool long_form) {
 
 namespace {
 
-const char* const clear_labels[] = {"Real/Complex Variables", "Stats Data",         "List Variables",
-                                    "Matrix Variables",       "Plot Functions",     "Drawing Data",
-                                    "Expression Entries",     "Program Functions",  "Program Input Buffer",
+const char* const clear_labels[] = {"Real/Complex Variables", "Stats Data",        "List Variables",
+                                    "Matrix Variables",       "Plot Functions",    "Drawing Data",
+                                    "Expression Entries",     "Program Functions", "Program Input Buffer",
                                     "String Variables",       "Clear All Items"};
 
 void clear_lists() {
@@ -120,21 +135,38 @@ void clear_function_slots(int first, int last) {
 
 void clear_one(int item) {
   switch (item) {
-    case CLEAR_VARIABLES: memory_clear_all(); break;
-    case CLEAR_LISTS: clear_lists(); break;
-    case CLEAR_MATRICES: clear_matrices(); break;
-    case CLEAR_PLOT_FUNCTIONS: clear_function_slots(0, FIRST_PROGRAM_FUNCTION - 1); break;
-    case CLEAR_HISTORY: history.count = 0; break;
-    case CLEAR_PROGRAM_FUNCTIONS: clear_function_slots(FIRST_PROGRAM_FUNCTION, FIRST_PROGRAM_FUNCTION + 8); break;
-    case CLEAR_STRINGS: clear_strings(); break;
-    default: break;
+    case CLEAR_VARIABLES:
+      memory_clear_all();
+      break;
+    case CLEAR_LISTS:
+      clear_lists();
+      break;
+    case CLEAR_MATRICES:
+      clear_matrices();
+      break;
+    case CLEAR_PLOT_FUNCTIONS:
+      clear_function_slots(0, FIRST_PROGRAM_FUNCTION - 1);
+      break;
+    case CLEAR_HISTORY:
+      history.count = 0;
+      break;
+    case CLEAR_PROGRAM_FUNCTIONS:
+      clear_function_slots(FIRST_PROGRAM_FUNCTION, FIRST_PROGRAM_FUNCTION + 8);
+      break;
+    case CLEAR_STRINGS:
+      clear_strings();
+      break;
+    default:
+      break;
   }
   hooks.clear_item(item);
 }
 
 }  // namespace
 
-const char* clear_item_label(int n) { return n >= CLEAR_VARIABLES && n <= CLEAR_ALL_ITEMS ? clear_labels[n - 1] : ""; }
+const char* clear_item_label(int n) {
+  return n >= CLEAR_VARIABLES && n <= CLEAR_ALL_ITEMS ? clear_labels[n - 1] : "";
+}
 
 void clear_items(double n) {
   const int item = checked_integer(n, CLEAR_VARIABLES, CLEAR_ALL_ITEMS, ERR_DOMAIN);

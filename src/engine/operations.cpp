@@ -5,6 +5,7 @@
 namespace zephyl {
 
 TOperationHandlers operations[OPERATION_COUNT];
+bool family_registered[4] = {};
 
 namespace {
 

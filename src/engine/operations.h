@@ -4,22 +4,13 @@
 
 #include "engine/compiled.h"
 #include "engine/operation_codes.h"
+#include "engine/real_rule.h"
 #include "engine/records.h"
 #include "engine/values.h"
 
 namespace zephyl {
 
 constexpr int ARGUMENT_LIMIT = 6;
-
-// An operation on real numbers whose result is real. One-operand operations ignore `right`.
-using TRealRule = double (*)(double left, double right);
-
-// When an operation may take its real rule.
-enum TRealUse {
-  REAL_NEVER = 0,
-  REAL_ON_REAL = 1,    // whenever its operands are real: it never leaves the real line
-  REAL_WHEN_FORCED = 2  // only if the result must stay real: ST_REAL, or a plot
-};
 
 struct TFuncFrame;
 struct TNumericState;
@@ -72,6 +63,10 @@ struct TOperationHandlers {
   TFamilyHandler string = nullptr;
 };
 extern TOperationHandlers operations[OPERATION_COUNT];
+
+// Set by a family when it has filled in its rows, by TFamily: from then on an operation that it leaves out is ERR_DATA_TYPE
+// for its operands, where before it is ERR_UNEXPECTED.
+extern bool family_registered[4];
 
 // The operations that no family has filled in and the evaluator does not do itself, by code, in `rows`; their number.
 int empty_operations(TOp_Code* rows);

@@ -45,6 +45,7 @@ struct TState {
   bool fresh_flag = true;  // a result stands; the next token starts a new expression
   bool nothing_evaluated = true;
   bool program_running = false;
+  std::uint32_t program_start_tick = 0;  // of the clock, while one runs
   bool at_prompt = false;
   bool at_function_prompt = false;
   bool key_wait = false;

@@ -28,8 +28,15 @@ enum : TToken {
   LAST_NAME_TOKEN = 5999, FIRST_CONVERSION_PAIR = 16384, FIRST_CONVERSION = 32768
 };
 
+// `name` by kind:
+//   digit: the character, "7", ".", "e" (the exponent letter), "A", "h";
+//   operation: its internal_name; for a custom function call the program's name where the expression is at hand;
+//   special: "start_paren", "end_brack_2", "Ans", "matrix_ans", "pi", "imaginary", "rand_num", "e_constant" and so on,
+//     the slot's short display name for a recall and a store, the character (with quotes, see below) of a string;
+//   statistic: its glyph, "mean_x"; conversion: "(ft", the character 128, "m)", "?" for an unknown unit;
+//   variable and its store: the variable's or function slot's name.
 struct TDecodedToken {
-  char name[120] = "";  // digit, glyph or keyword name
+  char name[120] = "";
   TTokenKind kind = TOKEN_NONE;
   TOp_Code op = OP_NONE;
   TSpecial special = SPECIAL_NONE;
@@ -58,13 +65,25 @@ TOp_Code token_operation(TToken token);
 // The token that enters an operation; 0 for one that only the compiler makes.
 TToken operation_token(TOp_Code op);
 
+// The tokens that the variable keys enter, of the ranges that reach every slot: 2000 and 3000 plus slot.
 TToken recall_token(int slot);
 TToken store_token(int slot);
 
-// The token of statistics value 0 to 20, and the text of a value in listings, " xMean ". Another number shows the note
-// "Stats string not defined" and gives "Not Defined ".
+// The token of statistics value 0 to 20, and the text of a value in listings, " xMean ". NO_STATISTIC gives an empty text;
+// any other number shows the note "Stats string not defined" and gives "Not Defined ".
 TToken statistics_token(int index);
 const char* get_stats_string(int index);
+// The value a token stands for, NO_STATISTIC for a token that is none, and the name of a value's glyph, "mean_x".
+int statistics_index(TToken token);
+const char* statistics_glyph(int index);
+
+// Pieces of token names. The name of TDecodedToken::memory of a system variable or a function slot: "xMin", "f1(x)",
+// empty for a number without a name.
+const char* variable_name(int memory);
+// "(ft>m)" of a decoded conversion, with `arrow` between the units; an unknown unit is "?".
+void conversion_name(const TDecodedToken& conversion, char arrow, char* out, int size);
+// The program's name behind the token 181 or 182 at `index`, cut to size.
+void call_name(const TExpression& expression, int index, char* out, int size);
 
 // The listing text of one token: "sin(", " > [A]", "(ft>m)", with its neighbours in view for strings and names.
 // One shared buffer.

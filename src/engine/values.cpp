@@ -27,15 +27,18 @@ double frac_part(double x) {
 
 int checked_integer(double x, int low, int high, TError error) {
   constexpr double integer_limit = 2e9;
-  if (std::fabs(x) < integer_limit && frac_part(x) == 0.0 && x >= low && x <= high) return static_cast<int>(x);
+  if (std::fabs(x) < integer_limit && frac_part(x) == 0.0 && x >= low && x <= high)
+    return static_cast<int>(int_part(x));
   if (error != NO_REPORT) report_error(error);
   return 0;
 }
 
 std::int32_t to_int32(double x) {
   if (std::isnan(x)) return 0;
-  if (x >= static_cast<double>(std::numeric_limits<std::int32_t>::max())) return std::numeric_limits<std::int32_t>::max();
-  if (x <= static_cast<double>(std::numeric_limits<std::int32_t>::min())) return std::numeric_limits<std::int32_t>::min();
+  if (x >= static_cast<double>(std::numeric_limits<std::int32_t>::max()))
+    return std::numeric_limits<std::int32_t>::max();
+  if (x <= static_cast<double>(std::numeric_limits<std::int32_t>::min()))
+    return std::numeric_limits<std::int32_t>::min();
   return static_cast<std::int32_t>(x);
 }
 

@@ -1,0 +1,103 @@
+#include "engine/calculator.h"
+
+#include <cstdio>
+
+#include "engine/compiler.h"
+#include "engine/errors.h"
+#include "engine/evaluator.h"
+#include "engine/expression.h"
+#include "engine/format.h"
+#include "engine/hooks.h"
+#include "engine/memory.h"
+#include "engine/records.h"
+#include "engine/state.h"
+#include "platform/platform.h"
+
+namespace zephyl {
+
+namespace {
+
+TCompiled compiled;
+
+void run_with_wait_cursor() {
+  platform().set_wait_cursor(true);
+  run_compiled(compiled, false);
+  platform().set_wait_cursor(false);
+}
+
+// Compiles the items and, unless compile_only, runs them.
+void process_items(bool compile_only) {
+  if (!state.at_prompt) add_history();
+  compile_items(compiled);
+  if (!compile_only) run_with_wait_cursor();
+}
+
+// The line with its result, or its error, on the display.
+void present_evaluation() {
+  show_result(true, true);
+  state.nothing_evaluated = false;
+  hooks.draw_expression(false);
+  state.fresh_flag = true;
+}
+
+}  // namespace
+
+const TCompiled& last_compiled() { return compiled; }
+
+bool evaluate_expression(bool compile_only) {
+  if (state.program_running && !state.at_prompt) return false;
+  clear_error();
+  if (!compile_only) state.fresh_flag = true;
+  tokens_to_items(entry_line.expression);
+  const bool has_items = item_list.count > 0;
+  const bool ready = has_items && !errors.error_flag;
+  if (ready) process_items(compile_only);
+  const bool shows = entry_line.expression.count > 0 && (!ready || !compile_only || errors.error_flag);
+  if (shows) present_evaluation();
+  hooks.redraw_part(PART_AC_AND_ARROWS);
+  if (!compile_only || errors.error_flag) entry_line.cursor = entry_line.expression.count;
+  return shows && ready && !errors.error_flag;
+}
+
+void clear_calculator(bool redraw) {
+  const bool error_stood = errors.error_flag;
+  item_list.count = 0;
+  clear_entry_line();
+  clear_error();
+  answers = {};
+  clear_matrix(stores.matrices[ANSWER_RECORD]);
+  clear_list(stores.lists[ANSWER_RECORD]);
+  stores.strings[ANSWER_RECORD].text[0] = 0;
+  state.fresh_flag = true;
+  state.nothing_evaluated = true;
+  if (!state.at_prompt) state.result_text[0] = 0;
+  state.result_shown = false;
+  if (!redraw) return;
+  hooks.draw_expression(true);
+  if (!state.at_prompt) hooks.draw_result(true);
+  if (error_stood) hooks.redraw_part(PART_AC_AND_ARROWS);
+}
+
+void show_result(bool show, bool home) {
+  std::snprintf(state.result_text, sizeof state.result_text, "%s",
+                format_result(answers.ans.re, answers.ans.im, true, false));
+  answers.ans_valid = true;
+  state.result_shown = true;
+  if (show) hooks.draw_result(home);
+}
+
+void refresh_result() {
+  if (answers.ans_valid && state.result_shown) show_result(true, true);
+}
+
+void reset_engine() {
+  reset_settings();
+  reset_state();
+  reset_errors();
+  reset_memory();
+  reset_stores();
+  reset_expressions();
+  reset_evaluator();
+}
+
+}  // namespace zephyl

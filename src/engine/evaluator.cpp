@@ -1,0 +1,317 @@
+#include "engine/evaluator.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "engine/errors.h"
+#include "engine/faults.h"
+#include "engine/hooks.h"
+#include "engine/loop_variables.h"
+#include "engine/memory.h"
+#include "engine/operation_table.h"
+#include "engine/poll.h"
+#include "engine/state.h"
+#include "engine/step_run.h"
+
+namespace zephyl {
+
+namespace {
+
+const TCompiled* walked = nullptr;
+
+// Set while a numeric operator re-runs its body: from then on errors in the body are errors.
+bool iterating[STEP_LIMIT] = {};
+
+// What a whole walk depends on.
+struct TWalk {
+  const TCompiled& compiled;
+  bool plotting;
+  bool integers;      // BASE_MODE: every operand and result is cut
+  TRealUse real_use;  // the real rules that real operands may take
+};
+
+// --- The quick road: steps whose operands are numbers wherever they run.
+
+// A result that isn't finite is a fault. The rule is pure: run again with clean flags, it tells which.
+void report_fault_of(const TStep& step, double left, double right) {
+  clear_faults();
+  step.real(left, right);
+  if (!report_fault()) report_error(ERR_OVERFLOW);
+}
+
+bool is_finite(double x) { return x - x == 0.0; }
+
+// False if the step can't take its real rule here.
+inline bool run_real_rule(const TStep& step, TRealUse allowed) {
+  // Copies: the result may go to a register that an operand comes from.
+  const TValue left = *step.cell[0];
+  const TValue right = *step.cell[1];
+  if (step.real_use > allowed || left.im != 0.0 || right.im != 0.0) return false;
+  if (step.reads_flags) clear_faults();
+  const double result = step.real(left.re, right.re);
+  step.out->value = {result, 0.0};
+  step.out->type = TYPE_NUMBER;
+  if (!is_finite(result) || (step.reads_flags && fault_raised())) report_fault_of(step, left.re, right.re);
+  return true;
+}
+
+// What a step asks of the walk.
+struct TOutcome {
+  bool repeat = false;
+  bool stop_on_error = false;
+};
+
+TOutcome run_general(const TWalk& walk, const TStep& step) {
+  const bool last = &step == walk.compiled.steps + walk.compiled.count - 1;
+  TStepRun run{walk.compiled, step, last, walk.plotting};
+  run_step(run);
+  if (is_function_kind(step.arg_kind) && step.arg_kind < KIND_CALL_WITH_ARGUMENTS)
+    func_frames[step.frame].count = 0;
+  return {run.repeat, run.stop_on_error};
+}
+
+// A whole list of steps on plain numbers: no frames, no bodies, one look at the clock.
+void walk_plain(const TWalk& walk) {
+  const TStep* const end = walk.compiled.steps + walk.compiled.count;
+  for (const TStep* step = walk.compiled.steps; step != end; ++step) {
+    if (!run_real_rule(*step, walk.real_use)) run_general(walk, *step);
+    if (errors.error_flag) return;
+  }
+  poll_after(walk.compiled.count);
+}
+
+// --- The general road.
+
+// Errors that stand even in the dry pass over the body of a numeric operator.
+bool stands_in_dry_pass(int code) {
+  constexpr int standing[] = {ERR_OVERFLOW,       ERR_OVERFLOW_TOO,  ERR_MEMORY_LIMIT, ERR_UNEXPECTED,
+                              ERR_ARGUMENT_COUNT, ERR_ARGUMENT_TYPE, ERR_NESTED_FNINT};
+  return std::find(std::begin(standing), std::end(standing), code) != std::end(standing);
+}
+
+// An operator that failed in a dry pass begins anew when it is called again.
+void abandon_operator(TNumericState& numeric) {
+  if (numeric.phase == 0) return;
+  pop_loop_variable();
+  numeric.phase = 0;
+}
+
+// True if the error ends the walk. In a dry pass it is forgiven, or stands while the walk goes on; the step's
+// value is 0.
+bool error_ends_walk(const TStep& step, const TOutcome& outcome) {
+  if (step.numeric_frame < 0 || iterating[step.numeric_frame] || outcome.stop_on_error) return true;
+  set_number_result(step.result, {});
+  if (stands_in_dry_pass(errors.error_code)) return false;
+  clear_error();
+  if (step.arg_kind == KIND_NUMERIC) abandon_operator(numeric_states[step.frame]);
+  return false;
+}
+
+void take_function_result(int reg) {
+  if (answers.m_ans_valid) {
+    if (MatrixRecord* to = set_matrix_result(reg)) copy_matrix(*to, stores.matrices[ANSWER_RECORD]);
+  } else if (answers.l_ans_valid) {
+    if (ListRecord* to = set_list_result(reg)) copy_list(*to, stores.lists[ANSWER_RECORD]);
+  } else if (answers.str_ans_valid) {
+    if (TString* to = set_string_result(reg)) copy_string(*to, stores.strings[ANSWER_RECORD]);
+  } else {
+    set_number_result(reg, answers.ans);
+  }
+}
+
+// The arguments are in the frame, checked.
+void call_custom_function(const TStep& step, const TCompiled& compiled) {
+  if (!errors.error_flag) hooks.run_function(compiled.names[step.name], func_frames[step.frame]);
+  if (!errors.error_flag) take_function_result(step.result);
+  func_frames[step.frame].count = 0;
+}
+
+TOutcome run_one(const TWalk& walk, const TStep& step) {
+  if (step.path == PATH_SCALAR && !walk.integers && run_real_rule(step, walk.real_use)) return {};
+  const TOutcome outcome = run_general(walk, step);
+  if (step.op == OP_FUNC1 || step.op == OP_FUNC2) call_custom_function(step, walk.compiled);
+  return outcome;
+}
+
+// --- Bodies of plain numbers, which run again without their operator's other arguments being gathered anew.
+
+// The body's steps, on the quick road where they can. False if one ended in an error.
+bool run_body(const TWalk& walk, const TStep& call) {
+  const TStep* const end = walk.compiled.steps + call.body_end;
+  for (const TStep* step = walk.compiled.steps + call.body_start; step != end; ++step) {
+    if (!run_real_rule(*step, walk.real_use)) run_general(walk, *step);
+    if (errors.error_flag) return false;
+  }
+  return true;
+}
+
+// The call of an operator as its first call left it in its frame.
+TScalarCall repeated_call(const TWalk& walk, const TStep& step) {
+  TScalarCall call{};
+  const TFunctionArguments& row = *function_arguments(step.op);
+  call.op = step.op;
+  for (int i = 0; i < row.count; ++i) call.args[i] = func_frames[step.frame].arguments[i].value;
+  call.count = row.count;
+  call.plotting = walk.plotting;
+  call.result_register = step.result;
+  call.frame = step.frame;
+  call.numeric = &numeric_states[step.frame];
+  call.step = &step;
+  return call;
+}
+
+// One round: the body, then the operator with its value. False if the body ended the walk.
+bool run_round(const TWalk& walk, const TStep& step, bool wants_real, TScalarCall& call) {
+  if (!run_body(walk, step)) return false;
+  call.args[0] = *step.body_value;
+  call.repeat = false;
+  if (wants_real && !is_real(call.args[0])) {
+    report_error(ERR_ARGUMENT_TYPE);
+    return true;
+  }
+  call.result = {};
+  step.handlers->scalar(call);
+  if (fault_raised()) report_fault();
+  return true;
+}
+
+// All rounds after the first call. False if the walk ends: an error in the body, or a cancel.
+bool run_rounds(const TWalk& walk, const TStep& step) {
+  const bool wants_real = function_arguments(step.op)->types[0] == ARGUMENT_REAL;
+  const int work = step.body_end - step.body_start + 1;
+  TScalarCall call = repeated_call(walk, step);
+  clear_faults();
+  do {
+    if (!run_round(walk, step, wants_real, call) || (!errors.error_flag && poll_after(work))) return false;
+  } while (call.repeat && !errors.error_flag);
+  if (!call.keeps_register) set_number_result(step.result, call.result);
+  return true;
+}
+
+// --- The walk
+
+// The index that the walk goes on with: the first step of the body if a numeric operator asks for another
+// round.
+int next_step(const TStep& step, const TOutcome& outcome, int index) {
+  if (step.arg_kind != KIND_NUMERIC) return index + 1;
+  iterating[step.frame] = outcome.repeat;
+  return outcome.repeat ? step.body_start : index + 1;
+}
+
+void walk_general(const TWalk& walk) {
+  std::fill(iterating, iterating + walk.compiled.frame_count, false);
+  int index = 0;
+  while (index < walk.compiled.count) {
+    const TStep& step = walk.compiled.steps[index];
+    TOutcome outcome = run_one(walk, step);
+    if (outcome.repeat && step.body_value && !walk.integers && !errors.error_flag) {
+      if (!run_rounds(walk, step)) return;
+      outcome.repeat = false;
+    }
+    if (errors.error_flag) {
+      if (error_ends_walk(step, outcome)) return;
+    } else if (poll_after(1)) {
+      return;
+    }
+    index = next_step(step, outcome, index);
+  }
+}
+
+// An expression without an operator: its operand goes straight to register 0.
+void deliver_single(const TOperand& only) {
+  const TArgument argument = read_operand(only);
+  if (errors.error_flag) return;
+  if (argument.string >= 0) {
+    copy_string(*set_string_result(0), *string_by_number(argument.string));
+  } else if (argument.list >= 0) {
+    if (const ListRecord* list = list_by_number(argument.list)) copy_list(*set_list_result(0), *list);
+  } else if (argument.matrix >= 0) {
+    if (const MatrixRecord* matrix = matrix_by_number(argument.matrix))
+      copy_matrix(*set_matrix_result(0), *matrix);
+  } else {
+    set_number_result(0, argument.value);
+  }
+}
+
+}  // namespace
+
+const TCompiled* walked_steps() { return walked; }
+
+void walk_steps(const TCompiled& compiled, bool plotting) {
+  if (compiled.error != NO_COMPILE_ERROR) return report_error(static_cast<TError>(compiled.error));
+  if (compiled.single) return deliver_single(compiled.only);
+  const TCompiled* const outer = walked;
+  walked = &compiled;
+  const bool stays_real = plotting || settings.complexFormat == ST_REAL;
+  const TWalk walk{compiled, plotting, state.calcMode == BASE_MODE,
+                   stays_real ? REAL_WHEN_FORCED : REAL_ON_REAL};
+  if (compiled.all_plain && !walk.integers)
+    walk_plain(walk);
+  else
+    walk_general(walk);
+  walked = outer;
+}
+
+namespace {
+
+void clear_frames(int count) {
+  for (int i = 0; i < count; ++i) {
+    func_frames[i].count = 0;
+    numeric_states[i].rounds = 0;
+    numeric_states[i].phase = 0;
+  }
+}
+
+bool arguments_left(int frame_count) {
+  return std::any_of(func_frames, func_frames + frame_count,
+                     [](const TFuncFrame& frame) { return frame.count > 0; });
+}
+
+void deliver_result() {
+  const TRegister& result = registers[0];
+  answers.m_ans_valid = result.type == TYPE_MATRIX;
+  answers.l_ans_valid = result.type == TYPE_LIST;
+  answers.str_ans_valid = result.type == TYPE_STRING;
+  answers.ans_valid = result.type == TYPE_NUMBER;
+  switch (result.type) {
+    case TYPE_MATRIX:
+      copy_matrix(stores.matrices[ANSWER_RECORD], temporaries.matrices[0]);
+      break;
+    case TYPE_LIST:
+      copy_list(stores.lists[ANSWER_RECORD], temporaries.lists[0]);
+      break;
+    case TYPE_STRING:
+      copy_string(stores.strings[ANSWER_RECORD], temporaries.strings[0]);
+      break;
+    default:
+      answers.ans = result.value;
+      break;
+  }
+}
+
+}  // namespace
+
+void run_compiled(const TCompiled& compiled, bool plotting) {
+  clear_literal();
+  clear_frames(compiled.frame_count);
+  registers[0].type = TYPE_NUMBER;
+  poll_budget = 0;  // what the user waits for looks at the clock from its first step
+  const int loop_variables = loop_variable_count();
+  if (!errors.error_flag) walk_steps(compiled, plotting);
+  if (errors.error_flag) pop_loop_variables_to(loop_variables);
+  if (arguments_left(compiled.frame_count)) report_error(ERR_SYNTAX);
+  if (errors.error_flag) return;
+  deliver_result();
+  if (state.at_prompt) hooks.prompt_answered();
+}
+
+void reset_evaluator() {
+  clear_literal();
+  clear_frames(STEP_LIMIT);
+  pop_loop_variables_to(0);
+  for (TRegister& reg : registers) reg = {};
+  walked = nullptr;
+  reset_poll();
+}
+
+}  // namespace zephyl

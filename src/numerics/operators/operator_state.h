@@ -1,0 +1,36 @@
+// What the numeric operators over expressions share. Each is a resumable machine: the evaluator runs the expression and
+// calls the operator with its value; the operator sets its variable to the next place and asks for another round, or
+// leaves its result. A fault that the operator's own arithmetic raises is read by the evaluator.
+#pragma once
+
+#include "engine/compiled.h"
+#include "engine/evaluator.h"
+#include "engine/operations.h"
+
+namespace zephyl {
+
+// phase 0: the operator begins, and the value of its expression means nothing yet.
+inline bool begins(const TScalarCall& call) { return call.numeric->phase == 0; }
+
+// Puts the variable's value away and enters phase 1. False, with the error reported, if that can't be.
+bool begin_operator(TScalarCall& call);
+
+// Another round of the expression at x.
+void ask_at(TScalarCall& call, const TValue& x);
+inline void ask_at(TScalarCall& call, double x) { ask_at(call, TValue{x, 0.0}); }
+
+// The operator's result; its variable has its old value again, and its next call begins anew.
+void finish_operator(TScalarCall& call, const TValue& result);
+
+// The state of an operator's method, one for each place of the nesting.
+template <typename TMethod>
+TMethod& method_state(const TScalarCall& call) {
+  static TMethod states[NUMERIC_NEST_LIMIT];
+  return states[call.step->nest < NUMERIC_NEST_LIMIT ? call.step->nest : 0];
+}
+
+// Results of smaller magnitude than near_zero_limit are 0.
+double snapped_to_zero(double x);
+
+
+}  // namespace zephyl

@@ -1,0 +1,71 @@
+// The operations over the statistics data: rx, ry, entStats(, getStatsX( and its siblings.
+
+#include "engine/errors.h"
+#include "engine/hooks.h"
+#include "engine/memory.h"
+#include "engine/operations.h"
+#include "stats/stats.h"
+#include "stats/stats_values.h"
+
+namespace zephyl {
+
+namespace {
+
+template <double (*predict)(double)>
+void predict_operation(TScalarCall& call) {
+  if (!is_real(call.args[0])) return report_error(ERR_DATA_TYPE);
+  call.result = {predict(call.args[0].re), 0.0};
+}
+
+void enter_operation(TScalarCall& call) {
+  add_stats_value(call.args[0].re);
+  call.result = call.args[0];
+}
+
+// The row of a 1-based index; -1, with the error reported, where there is none.
+int row_of(double index) {
+  if (stats.count == 0) {
+    report_error(ERR_NO_STATS_DATA);
+    return -1;
+  }
+  const int row = checked_integer(index, 1, stats.count, ERR_DOMAIN);
+  return errors.error_flag ? -1 : row - 1;
+}
+
+void get_value(TScalarCall& call, const double* column) {
+  const int row = row_of(call.args[0].re);
+  if (row >= 0) call.result = {column[row], 0.0};
+}
+
+void put_value(TScalarCall& call, double* column) {
+  const int row = row_of(call.args[0].re);
+  if (row < 0) return;
+  column[row] = call.args[1].re;
+  stats_changed();
+  call.result = call.args[1];
+}
+
+void get_y_operation(TScalarCall& call) {
+  if (stats.count > 0 && !two_variable_stats()) return report_error(ERR_NO_STATS_Y_DATA);
+  get_value(call, stats.y);
+}
+
+void put_y_operation(TScalarCall& call) {
+  if (stats.count > 0 && !two_variable_stats()) return report_error(ERR_NOT_TWO_VARIABLE);
+  put_value(call, stats.y);
+}
+
+}  // namespace
+
+void register_stats() {
+  hooks.statistics_value = stats_value;
+  operations[OP_REGRESS_X].scalar = predict_operation<predict_x>;
+  operations[OP_REGRESS_Y].scalar = predict_operation<predict_y>;
+  operations[OP_ENT_STATS].scalar = enter_operation;
+  operations[OP_GET_STATS_X].scalar = [](TScalarCall& call) { get_value(call, stats.x); };
+  operations[OP_GET_STATS_Y].scalar = get_y_operation;
+  operations[OP_PUT_STATS_X].scalar = [](TScalarCall& call) { put_value(call, stats.x); };
+  operations[OP_PUT_STATS_Y].scalar = put_y_operation;
+}
+
+}  // namespace zephyl
