@@ -6,6 +6,8 @@ target_compile_options(zephyl_options INTERFACE
   $<$<CXX_COMPILER_ID:GNU>:-Wno-format-truncation>
   # Digits must not depend on whether the compiler fuses a product and a sum.
   -ffp-contract=off
+  # Nobody reads errno after a mathematical function.
+  -fno-math-errno
   # Floating-point flags are read after operations.
   $<$<CXX_COMPILER_ID:Clang>:-ffp-exception-behavior=maytrap>)
 target_include_directories(zephyl_options INTERFACE ${CMAKE_SOURCE_DIR}/src)

@@ -107,15 +107,39 @@ void link_step(TStep& step, TScalarRegisters& scalar) {
   scalar[static_cast<std::size_t>(step.result)] = step.path == PATH_SCALAR;
 }
 
+bool is_comma_of(const TStep& step, const TStep& call) { return step.op == OP_COMMA && step.frame == call.frame; }
+
+// Where the body of a numeric operator is plain numbers, and nothing but commas lies between it and the operator.
+void link_body(TCompiled& compiled, int index) {
+  TStep& call = compiled.steps[index];
+  int end = call.body_start;
+  while (end < index && compiled.steps[end].path == PATH_SCALAR && compiled.steps[end].numeric_frame == call.frame)
+    ++end;
+  call.body_end = static_cast<std::int16_t>(end);
+  call.body_value = nullptr;
+  if (end == index) return;
+  for (int i = end; i < index; ++i)
+    if (!is_comma_of(compiled.steps[i], call)) return;
+  // The comma in front of the operator is the first one of the call: its left operand is the body's value. A register
+  // holds a number if it is the body that filled it.
+  const TOperand& value = compiled.steps[index - 1].operand[0];
+  if (value.kind != OPERAND_REGISTER || end > call.body_start) call.body_value = cell_of(value);
+}
+
 }  // namespace
 
 void link_steps(TCompiled& compiled) {
   TScalarRegisters scalar;
+  TRealProgramBuilder real_program(compiled.real_program);
   compiled.all_plain = compiled.count > 0;
   for (int i = 0; i < compiled.count; ++i) {
     link_step(compiled.steps[i], scalar);
+    real_program.add(compiled.steps[i]);
     if (compiled.steps[i].path != PATH_SCALAR) compiled.all_plain = false;
   }
+  real_program.finish();
+  for (int i = 0; i < compiled.count; ++i)
+    if (compiled.steps[i].arg_kind == KIND_NUMERIC) link_body(compiled, i);
 }
 
 // --- Copying

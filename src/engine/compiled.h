@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "engine/operation_codes.h"
+#include "engine/real_program.h"
 #include "engine/real_rule.h"
 #include "engine/values.h"
 
@@ -77,6 +78,7 @@ struct TCompiled {
   TStep steps[STEP_LIMIT];
   int count = 0;
   bool all_plain = false;  // every step is PATH_SCALAR
+  TRealProgram real_program;
   bool single = false;     // no operator at all: `only` is the value
   TOperand only;
   int error = NO_COMPILE_ERROR;  // reported again by each run

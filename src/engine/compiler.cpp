@@ -9,6 +9,7 @@ namespace {
 void clear_compiled(TCompiled& out) {
   out.count = 0;
   out.all_plain = false;
+  out.real_program.count = 0;
   out.single = false;
   out.only = {};
   out.error = NO_COMPILE_ERROR;

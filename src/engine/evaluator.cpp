@@ -237,19 +237,30 @@ void deliver_single(const TOperand& only) {
 
 const TCompiled* walked_steps() { return walked; }
 
-void walk_steps(const TCompiled& compiled, bool plotting) {
+namespace {
+
+// Every expression that isn't plain real arithmetic.
+void walk_otherwise(const TCompiled& compiled, bool plotting, TRealUse real_use) {
   if (compiled.error != NO_COMPILE_ERROR) return report_error(static_cast<TError>(compiled.error));
   if (compiled.single) return deliver_single(compiled.only);
   const TCompiled* const outer = walked;
   walked = &compiled;
-  const bool stays_real = plotting || settings.complexFormat == ST_REAL;
-  const TWalk walk{compiled, plotting, state.calcMode == BASE_MODE,
-                   stays_real ? REAL_WHEN_FORCED : REAL_ON_REAL};
+  const TWalk walk{compiled, plotting, state.calcMode == BASE_MODE, real_use};
   if (compiled.all_plain && !walk.integers)
     walk_plain(walk);
   else
     walk_general(walk);
   walked = outer;
+}
+
+}  // namespace
+
+void walk_steps(const TCompiled& compiled, bool plotting) {
+  const TRealProgram& real = compiled.real_program;
+  const TRealUse real_use = plotting || settings.complexFormat == ST_REAL ? REAL_WHEN_FORCED : REAL_ON_REAL;
+  const bool takes_real = real.count > 0 && real.real_use <= real_use && state.calcMode != BASE_MODE;
+  if (!takes_real || !inputs_are_real(real)) return walk_otherwise(compiled, plotting, real_use);
+  if (run_real_program(real)) poll_after(real.count);
 }
 
 namespace {

@@ -163,7 +163,7 @@ TConversionMatch match_conversion(const char* text) {
   if (!hooks.find_units) return found;
   const char* from = text + 1;
   const char* arrow = from;
-  while (*arrow && *arrow != '>' && distance(from, arrow) <= UNIT_NAME_LENGTH) ++arrow;
+  while (*arrow && *arrow != '>' && distance(from, arrow) < UNIT_NAME_LENGTH) ++arrow;
   if (*arrow != '>') return found;
   const char* to = arrow + 1;
   for (const char* end = to; *end && distance(to, end) <= UNIT_NAME_LENGTH; ++end) {

@@ -11,10 +11,13 @@ namespace zephyl {
 
 namespace {
 
-double snapped(double x) { return std::fabs(x) < near_zero_limit && state.calcMode != PLOT_MODE ? 0.0 : x; }
-
-// The library's square root is its power to 0.5, rounded correctly and much faster.
-double library_power(double x, double y) { return y == 0.5 ? std::sqrt(x) : std::pow(x, y); }
+// The library's power, where a product or the square root gives it several times faster: to within a rounding for the cube,
+// exactly for the others.
+double library_power(double x, double y) {
+  if (y == 2.0) return x * x;
+  if (y == 3.0) return x * x * x;
+  return y == 0.5 ? std::sqrt(x) : std::pow(x, y);
+}
 
 bool is_odd_root(double power) {
   const double remainder = std::fmod(1.0 / power, 2.0);
@@ -22,9 +25,6 @@ bool is_odd_root(double power) {
 }
 
 }  // namespace
-
-double snap_sin(double x) { return snapped(std::sin(x)); }
-double snap_cos(double x) { return snapped(std::cos(x)); }
 
 double snap_tan(double x) {
   const double sine = snap_sin(x);
@@ -34,7 +34,7 @@ double snap_tan(double x) {
     report_error(ERR_DOMAIN);
     return 0.0;
   }
-  return snapped(sine / cosine);
+  return snapped_unless_plotted(sine / cosine);
 }
 
 double real_power(double x, double y) {
@@ -46,8 +46,6 @@ double real_power(double x, double y) {
   if (x < 0.0 && std::fabs(y) < 1.0 && is_odd_root(y)) return -library_power(-x, y);
   return library_power(x, y);
 }
-
-double square_root_real(double x) { return real_power(x, 0.5); }
 
 double nearest_integer(double x) {
   const double below = std::floor(x);

@@ -2,12 +2,20 @@
 // function has no test of its own; the evaluator reads the flags and reports what they mean.
 #pragma once
 
+#include <cmath>
+
+#include "engine/state.h"
+#include "engine/values.h"
+
 namespace zephyl {
 
 // Sine and cosine of x in radians. A result that is nearly 0 is 0, so that sin(pi) shows 0; not in PLOT_MODE,
 // where a curve must not flatten at its zero crossings.
-double snap_sin(double x);
-double snap_cos(double x);
+inline double snapped_unless_plotted(double x) {
+  return std::fabs(x) < near_zero_limit && state.calcMode != PLOT_MODE ? 0.0 : x;
+}
+inline double snap_sin(double x) { return snapped_unless_plotted(std::sin(x)); }
+inline double snap_cos(double x) { return snapped_unless_plotted(std::cos(x)); }
 
 // Tangent of x in radians, snapped likewise. ERR_DOMAIN and 0 where the snapped cosine is 0.
 double snap_tan(double x);
@@ -16,8 +24,8 @@ double snap_tan(double x);
 // root where 1/y is an odd integer; otherwise a y that isn't an integer is an invalid operation.
 double real_power(double x, double y);
 
-// The square root of all numerics: real_power(x, 0.5).
-double square_root_real(double x);
+// The square root of all numerics: real_power(x, 0.5), by the library's root; of a negative zero it is 0.
+inline double square_root_real(double x) { return std::sqrt(x + 0.0); }
 
 // The closest integer; halves go away from zero.
 double nearest_integer(double x);
