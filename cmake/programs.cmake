@@ -26,5 +26,7 @@ zephyl_program(zephyl-console console)
 if(ZEPHYL_WINDOW)
   find_package(Qt6 REQUIRED COMPONENTS Widgets)
   zephyl_driver(desktop Qt6::Widgets)
+  # Without it Qt makes macros of common words such as "slots".
+  target_compile_definitions(zephyl_desktop_driver PUBLIC QT_NO_KEYWORDS)
   zephyl_program(zephyl desktop)
 endif()

@@ -93,7 +93,8 @@ void fourier_transform(ListRecord& to, const ListRecord& from, bool inverse) {
     for (int k = 0; k < n; ++k) to.elements[k] = direct_sum(from.elements, n, k, inverse ? 1.0 : -1.0);
   }
   const double scale = inverse ? 1.0 / n : 1.0;
-  for (TValue* x = to.elements; x <= to.elements + to.last; ++x) *x = {tidied(x->re * scale), tidied(x->im * scale)};
+  for (TValue* x = to.elements; x <= to.elements + to.last; ++x)
+    *x = {tidied(x->re * scale), tidied(x->im * scale)};
 }
 
 }  // namespace zephyl

@@ -21,8 +21,10 @@ const ListRecord* read_operand_list(const TFamilyCall& call, int number, ListRec
 }  // namespace
 
 bool read_list_operands(const TFamilyCall& call, TListOperands& operands) {
-  if (call.lists[0] >= 0 && !(operands.first = read_operand_list(call, call.lists[0], aside[0]))) return false;
-  if (call.lists[1] >= 0 && !(operands.second = read_operand_list(call, call.lists[1], aside[1]))) return false;
+  if (call.lists[0] >= 0 && !(operands.first = read_operand_list(call, call.lists[0], aside[0])))
+    return false;
+  if (call.lists[1] >= 0 && !(operands.second = read_operand_list(call, call.lists[1], aside[1])))
+    return false;
   return true;
 }
 

@@ -6,8 +6,8 @@
 
 namespace zephyl {
 
-// The first and second list of a call, read by number. An operand that is also the call's result register is copied aside
-// first, so that a function may write its result while it reads.
+// The first and second list of a call, read by number. An operand that is also the call's result register is
+// copied aside first, so that a function may write its result while it reads.
 struct TListOperands {
   const ListRecord* first = nullptr;
   const ListRecord* second = nullptr;
@@ -18,9 +18,9 @@ bool read_list_operands(const TFamilyCall& call, TListOperands& operands);
 
 inline int list_size(const ListRecord& list) { return list.last + 1; }
 
-// The result list of a call; null, with ERR_MEMORY_LIMIT, for a register without one. Once filled: end_list_result.
+// The result list of a call; null, with ERR_MEMORY_LIMIT, for a register without one.
 ListRecord* begin_list_result(const TFamilyCall& call);
-// size 0 leaves an undefined list.
+// To be called when it is filled; size 0 leaves an undefined list.
 void end_list_result(ListRecord& list, int size);
 
 // A 1-based position as an index 0 to size - 1; -1, with `error` reported, for anything else.

@@ -6,9 +6,11 @@
 #include "collections/list_calls.h"
 #include "collections/list_families.h"
 #include "collections/list_sort.h"
+#include "collections/list_view.h"
 #include "engine/evaluator.h"
 #include "engine/hooks.h"
 #include "engine/memory.h"
+#include "engine/operation_table.h"
 #include "numerics/complex_functions.h"
 
 namespace zephyl {
@@ -41,7 +43,8 @@ int copied(ListRecord& result, const ListRecord& list) {
 
 int cumulative_sum(ListRecord& result, const TListOperands& operands, const TFamilyCall&) {
   TValue sum;
-  for (int i = 0; i <= operands.first->last; ++i) result.elements[i] = sum = sum + operands.first->elements[i];
+  for (int i = 0; i <= operands.first->last; ++i)
+    result.elements[i] = sum = sum + operands.first->elements[i];
   return list_size(*operands.first);
 }
 
@@ -188,7 +191,8 @@ void register_list_editing() {
 void register_list_operations() {
   register_list_values();
   register_list_editing();
-  family_registered[2] = true;
+  register_list_views();
+  family_registered[LIST_FAMILY] = true;
 }
 
 }  // namespace zephyl

@@ -30,6 +30,7 @@ int best_place(int from, int last, bool descending) {
 }  // namespace
 
 void sort_list(ListRecord& list, bool descending) {
+  if (list.last < 1) return;  // not even its modulus is taken, which might overflow
   make_keys(list);
   for (int i = 0; i < list.last; ++i) {
     const int best = best_place(i, list.last, descending);
@@ -39,8 +40,9 @@ void sort_list(ListRecord& list, bool descending) {
 }
 
 void sorting_indexes(const ListRecord& list, short* indexes) {
-  make_keys(list);
   for (int i = 0; i <= list.last; ++i) indexes[i] = static_cast<short>(i);
+  if (list.last < 1) return;
+  make_keys(list);
   for (int i = 0; i < list.last; ++i) {
     const int best = best_place(i, list.last, false);
     std::swap(indexes[i], indexes[best]);

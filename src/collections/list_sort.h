@@ -1,5 +1,5 @@
-// Sorting of lists by value, by modulus where an element is complex: a selection sort, so that equal elements fall
-// where programs in circulation have always seen them.
+// Sorting of lists by value, by modulus where an element is complex: a selection sort, so that equal elements
+// fall where programs in circulation have always seen them.
 #pragma once
 
 #include "engine/records.h"

@@ -2,6 +2,8 @@
 
 #include "collections/list_families.h"
 
+#include <cmath>
+
 #include "collections/list_calls.h"
 #include "collections/list_sort.h"
 #include "collections/list_view.h"
@@ -60,16 +62,18 @@ TValue median_of(const ListRecord& list) {
   return 0.5 * (sorted.elements[middle] + sorted.elements[middle + 1]);
 }
 
-// One element has no variance: ERR_ZERO_DIVIDE.
+bool is_finite(TValue z) { return std::isfinite(z.re) && std::isfinite(z.im); }
+
+// One element has no variance: ERR_ZERO_DIVIDE, unless its square has overflowed before.
 TValue variance_of(const ListRecord& list) {
   TValue sum, squares;
-  if (list.last == 0) {
-    report_error(ERR_ZERO_DIVIDE);
-    return {};
-  }
   for (int i = 0; i <= list.last; ++i) {
     sum = sum + list.elements[i];
     squares = squares + list.elements[i] * list.elements[i];
+  }
+  if (list.last == 0) {
+    report_error(is_finite(squares) ? ERR_ZERO_DIVIDE : ERR_OVERFLOW);
+    return {};
   }
   return divided(squares - divided(sum * sum, list_size(list)), list.last);
 }
@@ -120,9 +124,9 @@ bool is_stored_list(int number) { return number >= 0 && number < ANSWER_RECORD; 
 
 // Writes into the store itself.
 void put_element_direct(TFamilyCall& call) {
-  if (!is_stored_list(call.lists[0])) return report_error(ERR_ARGUMENT_TYPE);
   ListRecord* list = list_by_number(call.lists[0]);
   if (!list) return;
+  if (!is_stored_list(call.lists[0])) return report_error(ERR_ARGUMENT_TYPE);
   const int index = index_of(call.numbers[0].re, list_size(*list));
   if (index < 0) return;
   hooks.about_to_store(SLOT_LIST_A + call.lists[0]);
@@ -131,6 +135,7 @@ void put_element_direct(TFamilyCall& call) {
 }
 
 void set_top_row(TFamilyCall& call) {
+  if (!list_by_number(call.lists[0])) return;
   if (call.lists[0] < 0 || call.lists[0] > ANSWER_RECORD) return report_error(ERR_ARGUMENT_TYPE);
   const int row = index_of(call.numbers[0].re, LIST_LIMIT);
   if (row >= 0) set_number_result(call.result_register, real_value(set_list_top_row(call.lists[0], row) + 1));

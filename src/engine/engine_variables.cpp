@@ -19,7 +19,8 @@ void redraw_part_and_result() {
 
 void redraw_regression() { hooks.redraw_part(PART_REGRESSION); }
 
-void redraw_stats_var() {
+void stats_variables_changed() {
+  hooks.stats_variables_changed();
   hooks.redraw_part(PART_STATS_VAR);
   hooks.redraw_title();
 }
@@ -51,7 +52,7 @@ constexpr TSettingRow setting_rows[] = {
     {VAR_KEY_CLICK, &TSettings::keyClick, 1, 2, redraw_nothing},
     {VAR_NUMBER_FORMAT, &TSettings::numberFormat, 1, 4, refresh_result},
     {VAR_STATS_REGRESS, &TSettings::statsRegress, 1, 4, redraw_regression},
-    {VAR_STATS_VAR, &TSettings::statsVar, 1, 2, redraw_stats_var},
+    {VAR_STATS_VAR, &TSettings::statsVar, 1, 2, stats_variables_changed},
 };
 
 const TSettingRow& setting_row(int number) {

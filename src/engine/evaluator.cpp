@@ -278,6 +278,9 @@ bool arguments_left(int frame_count) {
                      [](const TFuncFrame& frame) { return frame.count > 0; });
 }
 
+// A list without a size is no result: ERR_LIST_UNDEFINED.
+bool result_is_defined() { return registers[0].type != TYPE_LIST || list_by_number(REGISTER_NUMBER); }
+
 void deliver_result() {
   const TRegister& result = registers[0];
   answers.m_ans_valid = result.type == TYPE_MATRIX;
@@ -311,7 +314,7 @@ void run_compiled(const TCompiled& compiled, bool plotting) {
   if (!errors.error_flag) walk_steps(compiled, plotting);
   if (errors.error_flag) pop_loop_variables_to(loop_variables);
   if (arguments_left(compiled.frame_count)) report_error(ERR_SYNTAX);
-  if (errors.error_flag) return;
+  if (errors.error_flag || !result_is_defined()) return;
   deliver_result();
   if (state.at_prompt) hooks.prompt_answered();
 }

@@ -51,6 +51,8 @@ struct THooks {
   void (*request_plot_redraw)() = [] {};  // a drawing operation ran
   // stats: value 0 to 20, reports its own errors. Null: ERR_UNEXPECTED.
   double (*statistics_value)(int index) = nullptr;
+  // stats: statsVar has changed between one and two variables
+  void (*stats_variables_changed)() = [] {};
   // numerics: a uniform random number, for the random operand
   double (*next_random)() = [] { return 0.0; };
   // persistence: a unit by its code; null for an unknown one.

@@ -3,6 +3,7 @@
 #include "engine/poll.h"
 #include "engine/errors.h"
 #include "engine/evaluator.h"
+#include "engine/faults.h"
 #include "engine/hooks.h"
 #include "engine/state.h"
 #include "platform/events.h"
@@ -60,7 +61,11 @@ bool poll_cancel() {
   // A clock that reads less than before has wrapped: look at once.
   if (now >= last_poll && now - last_poll <= POLL_INTERVAL) return false;
   last_poll = now;
-  return pump_messages();
+  // What painting computes is no fault of the evaluation.
+  const bool faulted = fault_raised();
+  const bool abandoned = pump_messages();
+  if (!faulted) clear_faults();
+  return abandoned;
 }
 
 void reset_poll() {

@@ -27,8 +27,9 @@ double frac_part(double x) {
 
 int checked_integer(double x, int low, int high, TError error) {
   constexpr double integer_limit = 2e9;
-  if (std::fabs(x) < integer_limit && frac_part(x) == 0.0 && x >= low && x <= high)
-    return static_cast<int>(int_part(x));
+  const double integer = int_part(x);
+  if (std::fabs(x) < integer_limit && frac_part(x) == 0.0 && integer >= low && integer <= high)
+    return static_cast<int>(integer);
   if (error != NO_REPORT) report_error(error);
   return 0;
 }

@@ -17,14 +17,7 @@ namespace {
 constexpr int INTEGER_LIMIT = 1000000000;
 constexpr double pi = 3.141592653589793;
 
-// ln Gamma(x) by Lanczos for any x above 0.
-double log_gamma_of(double x) {
-  double series = lanczos_first;
-  double y = x;
-  for (const double coefficient : lanczos_coefficients) series += coefficient / ++y;
-  const double t = x + lanczos_shift;
-  return std::log(lanczos_root_two_pi * series / x) - (t - (x + 0.5) * std::log(t));
-}
+double log_gamma_of(double x) { return lanczos_log_gamma(x, lanczos_root_two_pi); }
 
 // Long loops can be ended by a tap.
 bool canceled() { return poll_after(1); }
@@ -142,7 +135,7 @@ double random_normal(double mean, double deviation) {
     const double x = u - 0.449871;
     const double y = std::fabs(v) + 0.386595;
     const double q = x * x + y * (0.196 * y - 0.25472 * x);
-    if (q < 0.27597 || (q <= 0.27846 && v * v <= -4.0 * std::log(u) * u * u)) return mean + deviation * v / u;
+    if (q < 0.27597 || (q <= 0.27846 && v * v <= -4.0 * std::log(u) * u * u)) return mean + deviation * (v / u);
   }
 }
 
@@ -160,11 +153,11 @@ double random_binomial(double p, double n) {
   const int trials = checked_integer(n, 1, INTEGER_LIMIT, ERR_DOMAIN);
   if (errors.error_flag) return 0.0;
   const double q = p <= 0.5 ? p : 1.0 - p;
-  const double mean = n * q;
+  const double mean = trials * q;
   const double successes = trials < count_below ? binomial_by_counting(q, trials)
                            : mean < 1.0         ? binomial_by_product(mean, trials)
-                                                : binomial_by_rejection(q, mean, n);
-  return p <= 0.5 ? successes : n - successes;
+                                                : binomial_by_rejection(q, mean, trials);
+  return p <= 0.5 ? successes : trials - successes;
 }
 
 void register_deviate_operations() {

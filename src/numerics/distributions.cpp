@@ -91,9 +91,8 @@ double t_cdf(const TArgs& a) {
 // --- Chi square: x or bounds, degrees of freedom.
 
 double chi_square_pdf(const TArgs& a) {
-  const double x = a[0], df = a[1];
-  if (!holds(x >= 0.0) || !is_count(df, 1)) return 0.0;
-  const double half = df / 2.0;
+  if (!holds(a[0] >= 0.0) || !is_count(a[1], 1)) return 0.0;
+  const double x = a[0], half = a[1] / 2.0;
   return real_power(x, half - 1.0) * real_power(0.5, half) * std::exp(-x / 2.0) / gamma(half);
 }
 
@@ -105,8 +104,8 @@ double chi_square_cdf(const TArgs& a) {
 // --- F: x or bounds, degrees of freedom of numerator and denominator.
 
 double f_pdf(const TArgs& a) {
+  if (!holds(a[0] >= 0.0) || !is_count(a[1], 1) || !is_count(a[2], 1)) return 0.0;
   const double x = a[0], n = a[1], d = a[2];
-  if (!holds(x >= 0.0) || !is_count(n, 1) || !is_count(d, 1)) return 0.0;
   const double front = gamma((n + d) / 2.0) / (gamma(n / 2.0) * gamma(d / 2.0));
   return front * real_power(n / d, n / 2.0) * real_power(x, n / 2.0 - 1.0) *
          real_power(1.0 + x * n / d, -(n + d) / 2.0);
@@ -124,7 +123,12 @@ double f_cdf(const TArgs& a) {
 
 // --- Binomial: x, n, p.
 
-double binomial_coefficient(double n, double r) { return factorial(n) / (factorial(n - r) * factorial(r)); }
+// As nCr( goes: n, then n - r, then r must have a factorial.
+double binomial_coefficient(double n, double r) {
+  const double of_all = factorial(n);
+  const double of_rest = factorial(n - r);
+  return of_all / (of_rest * factorial(r));
+}
 
 double binomial_pdf(const TArgs& a) {
   if (!is_probability(a[2]) || !is_count(a[0], 0) || !is_count(a[1], 1)) return 0.0;

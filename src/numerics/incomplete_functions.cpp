@@ -10,20 +10,13 @@ namespace {
 
 constexpr int ROUNDS = 300;
 constexpr double FLOOR = 1e-50;      // stands in for a 0 in Lentz's method
+constexpr double OVER_FLOOR = 1e50;
 constexpr double CONVERGED = 1e-20;  // so a factor must be exactly 1
 constexpr double stirling_from = 700.0;
 constexpr double two_pi = 6.283185307179586;
 constexpr double root_two_pi = 2.506628274631001;
 
 double not_below_floor(double x) { return std::fabs(x) < FLOOR ? FLOOR : x; }
-
-double lanczos_log_gamma(double x) {
-  double series = lanczos_first;
-  double y = x;
-  for (const double coefficient : lanczos_coefficients) series += coefficient / ++y;
-  const double t = x + lanczos_shift;
-  return std::log(root_two_pi * series / x) - (t - (x + 0.5) * std::log(t));
-}
 
 double front_factor(double a, double x) { return std::exp(a * std::log(x) - x - log_gamma(a)); }
 
@@ -42,7 +35,7 @@ double series_of_p(double a, double x) {
 
 // Q(a, x) by its continued fraction, modified Lentz.
 double fraction_of_q(double a, double x) {
-  double b = x + 1.0 - a, c = 1.0 / FLOOR, d = 1.0 / b, h = d;
+  double b = x + 1.0 - a, c = OVER_FLOOR, d = 1.0 / b, h = d;
   for (int i = 1; i <= ROUNDS; ++i) {
     const double an = i * (a - i);
     b += 2.0;
@@ -84,7 +77,8 @@ bool beta_cf(double a, double b, double x, double& h) {
 }  // namespace
 
 double log_gamma(double x) {
-  return x < stirling_from ? lanczos_log_gamma(x) : (x + 0.5) * std::log(x) + 0.5 * std::log(two_pi) - x;
+  return x < stirling_from ? lanczos_log_gamma(x, root_two_pi)
+                           : (x + 0.5) * std::log(x) + 0.5 * std::log(two_pi) - x;
 }
 
 double gamma_p(double a, double x) {

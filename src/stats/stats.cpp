@@ -13,6 +13,7 @@ namespace zephyl {
 
 TStats stats;
 void (*stats_changed)() = [] {};
+void (*show_stats_list)() = [] {};
 
 namespace {
 
@@ -62,10 +63,11 @@ bool enter_answer_into_stats() {
 }
 
 void delete_stats_row(int row) {
-  if (row < 0 || row >= stats.count) return;
-  std::copy(stats.x + row + 1, stats.x + stats.count, stats.x + row);
-  std::copy(stats.y + row + 1, stats.y + stats.count, stats.y + row);
-  --stats.count;
+  if (row >= 0 && row < stats.count) {
+    std::copy(stats.x + row + 1, stats.x + stats.count, stats.x + row);
+    std::copy(stats.y + row + 1, stats.y + stats.count, stats.y + row);
+    --stats.count;
+  }
   stats.next_is_x = true;
   changed();
 }
@@ -78,6 +80,12 @@ void delete_last_stats_row() {
 
 void set_stats_variables(int statsVar) {
   settings.statsVar = statsVar;
+  stats.next_is_x = true;
+  changed();
+}
+
+void set_stats_count(int count) {
+  stats.count = count;
   stats.next_is_x = true;
   changed();
 }

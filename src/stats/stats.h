@@ -17,6 +17,8 @@ bool two_variable_stats();
 
 // Called whenever rows or their number change; the list view of an open dialog sets it.
 extern void (*stats_changed)();
+// Opens the list of the data; what dispStatsList() calls. Nothing until a dialog is put in.
+extern void (*show_stats_list)();
 
 void clear_stats();
 
@@ -30,15 +32,18 @@ void delete_stats_row(int row);
 // With no rows only the next number belongs to x again.
 void delete_last_stats_row();
 
-// One or two variables, 0 or 1; the next number belongs to x.
+// One or two variables, 0 or 1; the next number belongs to x. Writing the system variable statsVar does the same.
 void set_stats_variables(int statsVar);
+
+// The number of rows, 0 to STATS_LIMIT, once a whole column has been filled; the next number belongs to x.
+void set_stats_count(int count);
 
 // The title's text for a program name: "%s (n=%d)" with ", x" or ", y" for the number expected next.
 void stats_title(char* out, int size, const char* program);
 
 void reset_stats();
 
-// The rows of statsVar and statsRegress stay with the settings; this hands over values, rx, ry, entStats( and the like.
+// The statistics values and their clearing by clrMem(, rx, ry, entStats( and the like.
 void register_stats();
 
 }  // namespace zephyl

@@ -5,6 +5,7 @@
 #include "engine/memory.h"
 #include "engine/operations.h"
 #include "stats/stats.h"
+#include "stats/stats_lists.h"
 #include "stats/stats_values.h"
 
 namespace zephyl {
@@ -55,10 +56,33 @@ void put_y_operation(TScalarCall& call) {
   put_value(call, stats.y);
 }
 
+void expect_x_next() {
+  stats.next_is_x = true;
+  stats_changed();
+}
+
+void show_operation(TScalarCall&) { show_stats_list(); }
+
+// Takes its place in front of the owners of other items.
+void (*clear_other_item)(int item) = nullptr;
+
+void clear_stats_item(int item) {
+  if (item == CLEAR_STATS) clear_stats();
+  clear_other_item(item);
+}
+
+void register_clearing() {
+  if (clear_other_item) return;
+  clear_other_item = hooks.clear_item;
+  hooks.clear_item = clear_stats_item;
+}
+
 }  // namespace
 
 void register_stats() {
   hooks.statistics_value = stats_value;
+  hooks.stats_variables_changed = expect_x_next;
+  register_clearing();
   operations[OP_REGRESS_X].scalar = predict_operation<predict_x>;
   operations[OP_REGRESS_Y].scalar = predict_operation<predict_y>;
   operations[OP_ENT_STATS].scalar = enter_operation;
@@ -66,6 +90,8 @@ void register_stats() {
   operations[OP_GET_STATS_Y].scalar = get_y_operation;
   operations[OP_PUT_STATS_X].scalar = [](TScalarCall& call) { put_value(call, stats.x); };
   operations[OP_PUT_STATS_Y].scalar = put_y_operation;
+  operations[OP_DISP_STATS_LIST].scalar = show_operation;
+  register_stats_lists();
 }
 
 }  // namespace zephyl

@@ -24,49 +24,43 @@ TLogarithms model_logarithms() {
   return {model == R_LOGARITHMIC || model == R_POWER, model == R_EXPON || model == R_POWER};
 }
 
-struct TSums {
-  double n = 0.0, x = 0.0, y = 0.0, xy = 0.0, xx = 0.0, yy = 0.0;
-};
+enum TSumKind { SUM_X, SUM_Y, SUM_XY, SUM_XX, SUM_YY };
 
-TSums sums(TLogarithms logarithms = {}) {
-  TSums sum;
-  sum.n = stats.count;
+// Each sum is made by itself: a value must not end in the overflow of a sum that it doesn't need.
+double sum_of(TSumKind kind, TLogarithms logarithms = {}) {
+  double sum = 0.0;
   for (int i = 0; i < stats.count; ++i) {
-    const double x = logarithms.x ? std::log(stats.x[i]) : stats.x[i];
-    const double y = logarithms.y ? std::log(stats.y[i]) : stats.y[i];
-    sum.x += x;
-    sum.y += y;
-    sum.xy += x * y;
-    sum.xx += x * x;
-    sum.yy += y * y;
+    const auto x = [&] { return logarithms.x ? std::log(stats.x[i]) : stats.x[i]; };
+    const auto y = [&] { return logarithms.y ? std::log(stats.y[i]) : stats.y[i]; };
+    switch (kind) {
+      case SUM_X: sum += x(); break;
+      case SUM_Y: sum += y(); break;
+      case SUM_XY: sum += x() * y(); break;
+      case SUM_XX: sum += x() * x(); break;
+      case SUM_YY: sum += y() * y(); break;
+    }
   }
   return sum;
 }
 
-// Sums over one column.
-TSums column_sums(const double* column) {
-  TSums sum;
-  sum.n = stats.count;
-  for (int i = 0; i < stats.count; ++i) {
-    sum.x += column[i];
-    sum.xx += column[i] * column[i];
-  }
-  return sum;
+// Sums of the squared distances from the means and of their products.
+double spread_of_x(TLogarithms logarithms = {}) {
+  const double x = sum_of(SUM_X, logarithms);
+  return sum_of(SUM_XX, logarithms) - x * x / stats.count;
 }
 
-// The root of a sum of squared distances over its divisor; one that rounding made negative counts as 0.
-double deviation(const TSums& sum, double divisor) {
-  const double squares = sum.xx - sum.x * sum.x / sum.n;
-  return square_root_real((squares < 0.0 ? 0.0 : squares) / divisor);
+double spread_of_y(TLogarithms logarithms = {}) {
+  const double y = sum_of(SUM_Y, logarithms);
+  return sum_of(SUM_YY, logarithms) - y * y / stats.count;
 }
 
-double slope_of(const TSums& sum) {
-  return (sum.xy - sum.x * sum.y / sum.n) / (sum.xx - sum.x * sum.x / sum.n);
+double common_spread(TLogarithms logarithms) {
+  return sum_of(SUM_XY, logarithms) - sum_of(SUM_X, logarithms) * sum_of(SUM_Y, logarithms) / stats.count;
 }
 
-double intercept_of(const TSums& sum) {
-  const double b = sum.y / sum.n - slope_of(sum) * sum.x / sum.n;
-  return model_logarithms().y ? std::exp(b) : b;
+// The standard deviation; a spread that rounding made negative counts as 0.
+double deviation(double spread, double divisor) {
+  return square_root_real((spread < 0.0 ? 0.0 : spread) / divisor);
 }
 
 double least(const double* column) { return *std::min_element(column, column + stats.count); }
@@ -80,19 +74,19 @@ struct TRow {
 };
 
 const TRow rows[STATISTICS_VALUE_COUNT] = {
-    {true, [] { return sums().xy; }},
-    {true, [] { return sums().xy / sums().y; }},
-    {true, [] { return sums().xy / sums().x; }},
-    {false, [] { return column_sums(stats.x).x / stats.count; }},
-    {false, [] { return column_sums(stats.x).x; }},
-    {false, [] { return column_sums(stats.x).xx; }},
-    {false, [] { return deviation(column_sums(stats.x), stats.count); }},
-    {false, [] { return deviation(column_sums(stats.x), stats.count - 1.0); }},
-    {true, [] { return column_sums(stats.y).x / stats.count; }},
-    {true, [] { return column_sums(stats.y).x; }},
-    {true, [] { return column_sums(stats.y).xx; }},
-    {true, [] { return deviation(column_sums(stats.y), stats.count); }},
-    {true, [] { return deviation(column_sums(stats.y), stats.count - 1.0); }},
+    {true, [] { return sum_of(SUM_XY); }},
+    {true, [] { return sum_of(SUM_XY) / sum_of(SUM_Y); }},
+    {true, [] { return sum_of(SUM_XY) / sum_of(SUM_X); }},
+    {false, [] { return sum_of(SUM_X) / stats.count; }},
+    {false, [] { return sum_of(SUM_X); }},
+    {false, [] { return sum_of(SUM_XX); }},
+    {false, [] { return deviation(spread_of_x(), stats.count); }},
+    {false, [] { return deviation(spread_of_x(), stats.count - 1.0); }},
+    {true, [] { return sum_of(SUM_Y) / stats.count; }},
+    {true, [] { return sum_of(SUM_Y); }},
+    {true, [] { return sum_of(SUM_YY); }},
+    {true, [] { return deviation(spread_of_y(), stats.count); }},
+    {true, [] { return deviation(spread_of_y(), stats.count - 1.0); }},
     {false, [] { return least(stats.x); }},
     {false, [] { return greatest(stats.x); }},
     {true, [] { return least(stats.y); }},
@@ -141,15 +135,21 @@ double stats_value(int index) {
   return without_fault(rows[index].value);
 }
 
-double regression_slope() { return slope_of(sums(model_logarithms())); }
+double regression_slope() {
+  const TLogarithms logarithms = model_logarithms();
+  return common_spread(logarithms) / spread_of_x(logarithms);
+}
 
-double regression_intercept() { return intercept_of(sums(model_logarithms())); }
+double regression_intercept() {
+  const TLogarithms logarithms = model_logarithms();
+  const double through_origin = regression_slope() * sum_of(SUM_X, logarithms) / stats.count;
+  const double b = sum_of(SUM_Y, logarithms) / stats.count - through_origin;
+  return logarithms.y ? std::exp(b) : b;
+}
 
 double correlation() {
-  const TSums sum = sums(model_logarithms());
-  const double xx = sum.xx - sum.x * sum.x / sum.n;
-  const double yy = sum.yy - sum.y * sum.y / sum.n;
-  return (sum.xy - sum.x * sum.y / sum.n) / square_root_real(xx * yy);
+  const TLogarithms logarithms = model_logarithms();
+  return common_spread(logarithms) / square_root_real(spread_of_x(logarithms) * spread_of_y(logarithms));
 }
 
 double predict_y(double x) {

@@ -25,6 +25,7 @@ class TSearch {
 
   double secant(double start, bool shrink_start);
   int last_error() const { return last_error_; }
+  bool canceled() const { return canceled_; }
 
  private:
   double residual_at(double rate);
@@ -34,14 +35,17 @@ class TSearch {
   TResidual volatile residual_;  // the compiler must not see into it: its faults are read after each call
   const void* data_;
   int last_error_ = ERR_ITERATIONS;
+  bool canceled_ = false;  // every further trial fails at once
 };
 
 double TSearch::residual_at(double rate) {
+  if (canceled_) return undefined_value;
   clear_faults();
   const double value = residual_(rate, data_);
   report_fault();
   if (!errors.error_flag) return value;
   last_error_ = errors.error_code;
+  canceled_ = last_error_ == ERR_CANCELED;
   clear_error();
   return undefined_value;
 }
@@ -103,6 +107,11 @@ double search_rate(TResidual residual, const void* data) {
     first = false;
     if (std::min(magnitude(a), magnitude(b)) <= distance || distance > distance_limit) break;
   }
+  if (search.canceled()) {
+    report_error(ERR_CANCELED);
+    return undefined_value;
+  }
+  clear_faults();  // those of the trials are dealt with
   if (!is_set(a) && !is_set(b)) {
     report_error(static_cast<TError>(search.last_error()));
     return undefined_value;

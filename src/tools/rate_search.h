@@ -4,7 +4,8 @@
 
 namespace zephyl {
 
-// The residual at a rate, a fraction. It may fault or report an error: that ends the trial it happens in.
+// The residual at a rate, a fraction. It may fault or report an error: that ends the trial it happens in, ERR_CANCELED the whole
+// search.
 using TResidual = double (*)(double rate, const void* data);
 
 // The root, or undefined_value with the last trial's error reported (ERR_ITERATIONS, or the residual's own).

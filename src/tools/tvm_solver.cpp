@@ -19,18 +19,16 @@ constexpr int PAYMENT_LIMIT = 10000;
 bool is_negligible(double x) { return std::fabs(x) < negligible; }
 double snapped(double x) { return is_negligible(x) ? 0.0 : x; }
 
-// The values by name, and the rate of a payment period.
+// The values by name, and the rate of a payment period where it is known.
 struct TLoan {
   double n, pv, pmt, fv, py, cy;
   bool begin;
-  double i;  // rate of a period
-  double s;  // 1 + i for payments at the beginning of a period, else 1
+  double i = 0.0;  // rate of a period
+  double s = 1.0;  // 1 + i for payments at the beginning of a period, else 1
 
   explicit TLoan(const TvmState& state)
       : n(state.values[TVM_N]), pv(state.values[TVM_PV]), pmt(state.values[TVM_PMT]), fv(state.values[TVM_FV]),
-        py(state.values[TVM_PY]), cy(state.values[TVM_CY]), begin(state.begin) {
-    set_rate(period_rate(state.values[TVM_I]));
-  }
+        py(state.values[TVM_PY]), cy(state.values[TVM_CY]), begin(state.begin) {}
 
   double period_rate(double percent) const {
     const double rate = percent * 0.01 / cy;
@@ -108,9 +106,9 @@ double solve_tvm(const TvmState& state, int unknown) {
     report_error(ERR_UNEXPECTED);
     return undefined_value;
   }
-  TvmState known = state;
-  if (unknown == TVM_I) known.values[TVM_I] = 0.0;
-  return snapped(solvers[unknown](TLoan(known)));
+  TLoan loan(state);
+  if (unknown != TVM_I) loan.set_rate(loan.period_rate(state.values[TVM_I]));
+  return snapped(solvers[unknown](loan));
 }
 
 TPayment amortize(const TvmState& state, int count) {

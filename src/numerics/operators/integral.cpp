@@ -1,8 +1,10 @@
-// fnInt(: the quadrature as an operator. It doesn't nest, not even with another operator between.
+// fnInt(: the quadrature as an operator. It doesn't nest, neither with another operator nor with a custom function
+// between.
 
 #include <cmath>
 
 #include "engine/errors.h"
+#include "engine/loop_variables.h"
 #include "engine/operation_table.h"
 #include "numerics/integral_error.h"
 #include "numerics/operators/operator_state.h"
@@ -43,7 +45,7 @@ double tolerance_of(const TScalarCall& call) {
 
 void integral_operation(TScalarCall& call) {
   if (begins(call)) {
-    if (lies_in_integral(*call.step)) return report_error(ERR_NESTED_FNINT);
+    if (lies_in_integral(*call.step) || runs_loop_of(OP_FN_INT)) return report_error(ERR_NESTED_FNINT);
     if (begin_operator(call)) ask_at(call, quadrature.start(call.args[2].re, call.args[3].re, tolerance_of(call)));
     return;
   }

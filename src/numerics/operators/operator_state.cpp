@@ -9,7 +9,7 @@
 namespace zephyl {
 
 bool begin_operator(TScalarCall& call) {
-  push_loop_variable(call.numeric->variable);
+  push_loop_variable(call.numeric->variable, call.op);
   if (errors.error_flag) return false;
   call.numeric->phase = 1;
   return true;

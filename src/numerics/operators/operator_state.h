@@ -5,6 +5,7 @@
 
 #include "engine/compiled.h"
 #include "engine/evaluator.h"
+#include "engine/loop_variables.h"
 #include "engine/operations.h"
 
 namespace zephyl {
@@ -22,15 +23,14 @@ inline void ask_at(TScalarCall& call, double x) { ask_at(call, TValue{x, 0.0}); 
 // The operator's result; its variable has its old value again, and its next call begins anew.
 void finish_operator(TScalarCall& call, const TValue& result);
 
-// The state of an operator's method, one for each place of the nesting.
+// The state of an operator's method, one for each operator that can be under way: the innermost is the one that is called.
 template <typename TMethod>
 TMethod& method_state(const TScalarCall& call) {
-  static TMethod states[NUMERIC_NEST_LIMIT];
-  return states[call.step->nest < NUMERIC_NEST_LIMIT ? call.step->nest : 0];
+  static TMethod states[LOOP_VARIABLE_LIMIT + 1];
+  return states[loop_variable_count() - (begins(call) ? 0 : 1)];
 }
 
 // Results of smaller magnitude than near_zero_limit are 0.
 double snapped_to_zero(double x);
-
 
 }  // namespace zephyl

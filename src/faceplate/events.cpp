@@ -1,0 +1,82 @@
+// The events of a driver: start and stop, the pen, the keyboard, painting, the idle round.
+
+#include "platform/events.h"
+
+#include "engine/calculator.h"
+#include "engine/faults.h"
+#include "engine/operation_table.h"
+#include "engine/state.h"
+#include "faceplate/display.h"
+#include "faceplate/entry_line_view.h"
+#include "faceplate/key_feedback.h"
+#include "faceplate/key_path.h"
+#include "faceplate/screens.h"
+#include "faceplate/title.h"
+#include "numerics/random.h"
+#include "platform/platform.h"
+#include "plot/plot_variables.h"
+#include "tools/tvm_state.h"
+
+namespace zephyl {
+
+namespace {
+
+void reset_all() {
+  reset_engine();
+  reset_plot_variables();
+  reset_tvm_state();
+  forget_key_feedback();
+}
+
+}  // namespace
+
+// Each step leaves ready what the next one needs.
+void on_start() {
+  reset_all();
+  clear_faults();
+  check_operation_array();
+  seed_random(0.0);
+  clear_calculator(true);
+  check_function_arguments();
+  state.init_done = true;
+  refresh_title();
+  set_plot_defaults();
+  platform().invalidate(false);
+}
+
+void on_stop() { forget_key_feedback(); }
+
+void on_pen_down(int x, int y) {
+  state.swallow_up = false;
+  if (!state.alpha_active) cursor_to_tap(x, y);
+  handle_faceplate_input(x, y, -1, -1);
+  state.drag_in_progress = false;
+}
+
+void on_pen_move(int, int) {}
+
+void on_pen_up(int, int) {
+  state.drag_in_progress = false;
+  if (state.swallow_up) {
+    state.swallow_up = false;
+    return;
+  }
+  if (state.plot_button > 0) state.plot_button = 0;
+  release_key_feedback();
+}
+
+void on_char(std::uint16_t character) { handle_faceplate_input(0, 0, character, -1); }
+
+void on_arrow(TArrow arrow) { handle_faceplate_input(0, 0, -1, arrow); }
+
+void on_paint() {
+  release_key_feedback();
+  paint_screen(screen_surface());
+}
+
+// Nothing goes on by itself between two events.
+bool on_idle() { return false; }
+
+const TSurface& screen() { return screen_surface(); }
+
+}  // namespace zephyl

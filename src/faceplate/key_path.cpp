@@ -1,0 +1,116 @@
+#include "faceplate/key_path.h"
+
+#include "engine/errors.h"
+#include "engine/expression.h"
+#include "engine/state.h"
+#include "faceplate/hit_test.h"
+#include "faceplate/indicators.h"
+#include "faceplate/key_feedback.h"
+#include "faceplate/keys_comp.h"
+#include "faceplate/modes.h"
+#include "faceplate/typed_keys.h"
+#include "platform/platform.h"
+
+namespace zephyl {
+
+namespace {
+
+constexpr int FIRST_VIEW_KEY = 7;  // of PLOT_MODE
+constexpr int LAST_VIEW_KEY = 11;
+constexpr int STATS_COMMA_KEY = 19;
+
+void key_click() {
+  if (settings.keyClick) platform().play_click();
+}
+
+// The first of the six tabs in the key table of a mode; -1 for a screen without tabs.
+int first_tab_key(int mode) {
+  switch (mode) {
+    case PROGRAM_EDIT_MODE:
+      return 18;
+    case PLOT_MODE:
+      return 12;
+    case MATRIX_MODE:
+    case LIST_MODE:
+      return 0;
+    case PERIODIC_MODE:
+      return -1;
+    default:
+      return 43;
+  }
+}
+
+// The modes whose key maps are still to come: only the ways to another mode work.
+int tabs_only_pressed(int key) {
+  const int first = first_tab_key(state.calcMode);
+  if (first >= 0 && key >= first && key < first + TAB_COUNT) press_tab(key - first);
+  if (state.calcMode == PERIODIC_MODE && key == 0) set_mode(COMP_MODE, false);
+  return KEY_DONE;
+}
+
+int unknown_mode(bool& needs_repaint) {
+  platform().show_message("Invalid calculator mode", "key_pressed_decoder");
+  needs_repaint = true;
+  return KEY_CONSUMED;
+}
+
+bool program_works() { return state.program_running && !state.at_prompt; }
+
+// A program that watches the view keys takes them for itself.
+bool program_takes(int key) {
+  const bool watched = state.calcMode == PLOT_MODE && state.program_running && state.plot_button != -1;
+  if (!watched || key < FIRST_VIEW_KEY || key > LAST_VIEW_KEY) return false;
+  state.plot_button = key - FIRST_VIEW_KEY + 1;
+  return true;
+}
+
+// Any key ends the pause of a program, but for those that work through it.
+bool ends_pause(const KeyRect& rect) {
+  if (!state.key_wait || rect.tap_through) return false;
+  key_click();
+  state.key_wait = false;
+  return true;
+}
+
+void take_token(int token) {
+  if (errors.error_flag || !state.init_done) return;
+  insert_token(false, static_cast<TToken>(token));
+}
+
+void end_shifts(bool needs_repaint) {
+  if (!state.blue_shift && !state.orange_shift) return;
+  state.blue_shift = state.orange_shift = false;
+  if (!needs_repaint) redraw_part(PART_SHIFTS);
+}
+
+void press_key(int key) {
+  bool needs_repaint = false;
+  const int result = key_pressed_decoder(needs_repaint, key);
+  if (program_works()) return;
+  if (result >= 0) take_token(result);
+  if (result != KEY_CONSUMED) end_shifts(needs_repaint);
+  if (needs_repaint) platform().invalidate(false);
+}
+
+// A comma typed in STATS_MODE would clear the statistics: only a tap does that.
+bool dropped(int key, bool tap) { return state.calcMode == STATS_MODE && !tap && key == STATS_COMMA_KEY; }
+
+}  // namespace
+
+int key_pressed_decoder(bool& needs_repaint, int key) {
+  key_click();
+  if (state.calcMode < BASE_MODE || state.calcMode > LIST_MODE) return unknown_mode(needs_repaint);
+  return state.calcMode == COMP_MODE ? comp_key_pressed(key) : tabs_only_pressed(key);
+}
+
+void handle_faceplate_input(int x, int y, int character, int cursor_key) {
+  const bool tap = character < 0 && cursor_key < 0;
+  KeyRect rect;
+  const int key = key_hit_test(x, y, character, cursor_key, rect);
+  if (key == NO_KEY || dropped(key, tap)) return;
+  if (tap) press_key_feedback(rect.rect());
+  if (program_takes(key) || ends_pause(rect)) return;
+  press_key(key);
+}
+
+}  // namespace zephyl

@@ -1,0 +1,8 @@
+// The title line of the window, which carries the state.
+#pragma once
+
+namespace zephyl {
+
+void refresh_title();
+
+}  // namespace zephyl

@@ -1,0 +1,212 @@
+#include "platform/desktop/desktop_platform.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QThread>
+#include <QUrl>
+#include <chrono>
+#include <clocale>
+
+#include "faceplate/key_tables.h"
+#include "platform/desktop/clipboard.h"
+#include "platform/desktop/window_place.h"
+#include "platform/events.h"
+
+namespace zephyl {
+
+namespace {
+
+constexpr int AC_KEY = 27;
+
+TPoint centre_of_ac() {
+  const TRect key = calculator_keys.rows[AC_KEY].rect();
+  return {(key.left + key.right) / 2 + calculator_keys.dx, (key.top + key.bottom) / 2 + calculator_keys.dy};
+}
+
+}  // namespace
+
+TDesktopPlatform::TDesktopPlatform(std::string folder)
+    : folder_(std::move(folder)),
+      window_([this](const TInput& input) { take(input); }, [this] { return close_wished(); }),
+      click_(folder_ + "/click.wav") {
+  // Qt takes on the user's locale. Numbers of the calculator are written with a point, whatever that says.
+  std::setlocale(LC_NUMERIC, "C");
+  timer_.setSingleShot(true);
+  QObject::connect(&timer_, &QTimer::timeout, [this] { round(); });
+}
+
+int TDesktopPlatform::run() {
+  start();
+  window_.show();
+  const int code = QApplication::exec();
+  stop();
+  return code;
+}
+
+void TDesktopPlatform::start() {
+  restore_place(window_, folder_);
+  working_ = true;
+  on_start();
+  compose();
+  working_ = false;
+  wake();
+}
+
+void TDesktopPlatform::stop() {
+  if (stopped_) return;
+  stopped_ = true;
+  save_place(window_, folder_);
+  on_stop();
+}
+
+void TDesktopPlatform::take(const TInput& input) {
+  queue_.push(input);
+  wake();
+}
+
+// While the calculator works the wish waits in the queue, where the poll of an evaluation sees it.
+bool TDesktopPlatform::close_wished() {
+  if (!stopped_) {
+    take({INPUT_CLOSE});
+    round();
+  }
+  return stopped_;
+}
+
+void TDesktopPlatform::wake() { timer_.start(0); }
+
+// One round of the main loop. Boxes and the poll run event loops of their own inside of it; the timer fires
+// there too, and does nothing.
+void TDesktopPlatform::round() {
+  if (working_ || stopped_) return;
+  working_ = true;
+  TInput input;
+  while (!stopped_ && queue_.pop(input)) dispatch(input);
+  if (!stopped_) compose();
+  const bool more = !stopped_ && on_idle();
+  working_ = false;
+  if (more || paint_requested_ || !queue_.empty()) wake();
+}
+
+void TDesktopPlatform::dispatch(const TInput& input) {
+  cancel_let_pass_ = false;
+  switch (input.kind) {
+    case INPUT_PEN_DOWN:
+      return on_pen_down(input.at.x, input.at.y);
+    case INPUT_PEN_MOVE:
+      return on_pen_move(input.at.x, input.at.y);
+    case INPUT_PEN_UP:
+      return on_pen_up(input.at.x, input.at.y);
+    case INPUT_CHARACTER:
+      return on_char(static_cast<std::uint16_t>(input.code));
+    case INPUT_ARROW:
+      return on_arrow(static_cast<TArrow>(input.code));
+    case INPUT_COPY:
+      return copy_result();
+    case INPUT_PASTE:
+      return paste_clipboard();
+    case INPUT_CLOSE:
+      stop();
+      window_.close();
+  }
+}
+
+std::uint32_t TDesktopPlatform::tick_count() {
+  using namespace std::chrono;
+  return static_cast<std::uint32_t>(
+      duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count());
+}
+
+TLocalTime TDesktopPlatform::local_time() {
+  const QDateTime now = QDateTime::currentDateTime();
+  const QDate date = now.date();
+  const QTime time = now.time();
+  return {date.year(),   date.month(),  date.day(),  time.hour(),
+          time.minute(), time.second(), time.msec(), date.dayOfWeek() % 7};
+}
+
+void TDesktopPlatform::sleep(std::uint32_t milliseconds) { QThread::msleep(milliseconds); }
+
+// Escape and the wish to close show themselves as a tap on AC: taps are looked for ten times as often as
+// cancels.
+bool TDesktopPlatform::peek_pen_down(TPoint& at) {
+  QCoreApplication::processEvents();
+  if (queue_.find_pen_down(at)) return true;
+  at = centre_of_ac();
+  return queue_.holds_cancel() && !cancel_let_pass_;
+}
+
+void TDesktopPlatform::remove_pen_down() {
+  TPoint at;
+  if (queue_.find_pen_down(at))
+    queue_.remove_pen_down();
+  else
+    cancel_let_pass_ = true;
+}
+
+bool TDesktopPlatform::peek_cancel() {
+  QCoreApplication::processEvents();
+  return queue_.holds_cancel();
+}
+
+void TDesktopPlatform::invalidate(bool at_once) {
+  paint_requested_ = true;
+  if (at_once)
+    compose();
+  else
+    wake();
+}
+
+bool TDesktopPlatform::take_paint_request() {
+  const bool was_requested = paint_requested_;
+  paint_requested_ = false;
+  return was_requested;
+}
+
+void TDesktopPlatform::compose() {
+  if (!take_paint_request()) return;
+  on_paint();
+  present(false);
+}
+
+void TDesktopPlatform::present(bool at_once) {
+  if (at_once)
+    window_.repaint();
+  else
+    window_.update();
+}
+
+void TDesktopPlatform::set_title(const char* title) { window_.setWindowTitle(QString::fromUtf8(title)); }
+
+void TDesktopPlatform::set_wait_cursor(bool on) {
+  if (on == wait_cursor_) return;
+  wait_cursor_ = on;
+  if (on)
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  else
+    QGuiApplication::restoreOverrideCursor();
+}
+
+void TDesktopPlatform::show_message(const char* text, const char* title) {
+  QMessageBox box(QMessageBox::Warning, QString::fromUtf8(title), QString::fromUtf8(text), QMessageBox::Ok,
+                  &window_);
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+}
+
+bool TDesktopPlatform::ask_question(const char* text, const char* title) {
+  QMessageBox box(QMessageBox::Question, QString::fromUtf8(title), QString::fromUtf8(text),
+                  QMessageBox::Yes | QMessageBox::No, &window_);
+  box.setTextFormat(Qt::PlainText);
+  return box.exec() == QMessageBox::Yes;
+}
+
+void TDesktopPlatform::show_help() {
+  const QString file = QString::fromStdString(folder_) + "/Zephyl_help.chm";
+  if (QFileInfo::exists(file)) QDesktopServices::openUrl(QUrl::fromLocalFile(file));
+}
+
+}  // namespace zephyl

@@ -1,0 +1,68 @@
+// The outside world of the calculator on a desktop: one window, boxes of the desktop's own kind, the real
+// clock. Input is collected while the calculator works and fed to it one by one when it is ready: nothing
+// that the user does runs calculator code in the middle of an evaluation.
+#pragma once
+
+#include <QTimer>
+#include <string>
+
+#include "platform/desktop/calculator_window.h"
+#include "platform/desktop/click_sound.h"
+#include "platform/desktop/input_queue.h"
+#include "platform/platform.h"
+
+namespace zephyl {
+
+class TDesktopPlatform : public TPlatform {
+ public:
+  // The QApplication must exist. folder: the data folder.
+  explicit TDesktopPlatform(std::string folder);
+
+  // Starts the calculator, shows its window and returns when that was closed: the exit code of the program.
+  // The platform must be set and the families registered.
+  int run();
+
+  // The parts of run, for whoever has an event loop already.
+  void start();
+  void stop();
+  bool stopped() const { return stopped_; }
+  TCalculatorWindow& window() { return window_; }
+
+  std::uint32_t tick_count() override;
+  TLocalTime local_time() override;
+  void sleep(std::uint32_t milliseconds) override;
+  bool peek_pen_down(TPoint& at) override;
+  void remove_pen_down() override;
+  bool peek_cancel() override;
+  void invalidate(bool at_once) override;
+  bool take_paint_request() override;
+  void present(bool at_once) override;
+  void set_title(const char* title) override;
+  void set_wait_cursor(bool on) override;
+  void show_message(const char* text, const char* title) override;
+  bool ask_question(const char* text, const char* title) override;
+  void play_click() override { click_.play(); }
+  void show_help() override;
+  const char* data_folder() override { return folder_.c_str(); }
+
+ private:
+  void take(const TInput& input);
+  bool close_wished();
+  void wake();
+  void round();
+  void dispatch(const TInput& input);
+  void compose();
+
+  std::string folder_;
+  TInputQueue queue_;
+  TCalculatorWindow window_;
+  QTimer timer_;
+  TClickSound click_;
+  bool paint_requested_ = true;
+  bool working_ = false;  // calculator code is on the stack
+  bool stopped_ = false;
+  bool cancel_let_pass_ = false;
+  bool wait_cursor_ = false;
+};
+
+}  // namespace zephyl

@@ -1,0 +1,165 @@
+#include "scripts/transcript.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <system_error>
+#include <utility>
+
+#include "app/start_up.h"
+#include "platform/script/script.h"
+
+namespace zephyl {
+
+namespace {
+
+constexpr const char* BLANK = "<blank>";
+
+bool is_command(const std::string& line) { return line.compare(0, 2, "> ") == 0; }
+bool is_heading(const std::string& line) { return line.empty() || line[0] == '#'; }
+
+// Hands out the commands of a transcript and files the answers under the command they belong to.
+class TTranscriptChannel : public TScriptChannel {
+ public:
+  explicit TTranscriptChannel(TTranscript& transcript) : transcript_(transcript) {}
+
+  bool read_line(std::string& line) override {
+    if (next_ >= transcript_.exchanges.size()) return false;
+    line = transcript_.exchanges[next_++].command;
+    return true;
+  }
+  void write_line(const std::string& line) override {
+    if (next_ > 0) transcript_.exchanges[next_ - 1].answered.push_back(line.empty() ? BLANK : line);
+  }
+  void flush() override {}
+
+ private:
+  TTranscript& transcript_;
+  std::size_t next_ = 0;
+};
+
+// An empty folder, current while it lives and removed afterwards.
+class TTemporaryFolder {
+ public:
+  TTemporaryFolder() : before_(std::filesystem::current_path()) {
+    std::string name = (std::filesystem::temp_directory_path() / "zephyl-transcript-XXXXXX").string();
+    if (!mkdtemp(name.data())) return;
+    folder_ = name;
+    std::filesystem::current_path(folder_);
+  }
+  ~TTemporaryFolder() {
+    std::error_code ignored;
+    std::filesystem::current_path(before_, ignored);
+    if (!folder_.empty()) std::filesystem::remove_all(folder_, ignored);
+  }
+  TTemporaryFolder(const TTemporaryFolder&) = delete;
+  TTemporaryFolder& operator=(const TTemporaryFolder&) = delete;
+
+  bool made() const { return !folder_.empty(); }
+
+ private:
+  std::filesystem::path before_;
+  std::filesystem::path folder_;
+};
+
+// An expected line that names an answer instead of spelling it.
+bool is_name(const std::string& line) {
+  return line.size() > 2 && line.front() == '<' && line.back() == '>' && line != BLANK;
+}
+
+// The answers that names stand for, in the order of the transcript.
+class TNamedAnswers {
+ public:
+  // True if `answer` may stand under `name`: it did before, or neither has been seen.
+  bool agrees(const std::string& name, const std::string& answer) {
+    for (const auto& [known_name, known_answer] : known_)
+      if (known_name == name || known_answer == answer) return known_name == name && known_answer == answer;
+    known_.emplace_back(name, answer);
+    return true;
+  }
+
+ private:
+  std::vector<std::pair<std::string, std::string>> known_;
+};
+
+// Puts the expected names in the place of the answers that agree with them.
+void name_answers(TTranscript& transcript) {
+  TNamedAnswers names;
+  for (TExchange& exchange : transcript.exchanges)
+    for (std::size_t i = 0; i < exchange.expected.size() && i < exchange.answered.size(); ++i)
+      if (is_name(exchange.expected[i]) && names.agrees(exchange.expected[i], exchange.answered[i]))
+        exchange.answered[i] = exchange.expected[i];
+}
+
+void print_lines(const char* label, const std::vector<std::string>& lines) {
+  if (lines.empty()) std::printf("  %s nothing\n", label);
+  for (const std::string& line : lines) std::printf("  %s %s\n", label, line.c_str());
+}
+
+void write_lines(std::ofstream& file, const std::vector<std::string>& lines) {
+  for (const std::string& line : lines) file << line << '\n';
+}
+
+}  // namespace
+
+bool read_transcript(const std::string& path, TTranscript& transcript) {
+  transcript.path = path;
+  std::ifstream file(path);
+  if (!file) {
+    std::fprintf(stderr, "%s: cannot be read\n", path.c_str());
+    return false;
+  }
+  std::string line;
+  for (int number = 1; std::getline(file, line); ++number) {
+    if (is_heading(line)) {
+      transcript.ending.push_back(line);
+    } else if (is_command(line)) {
+      transcript.exchanges.push_back({transcript.ending, number, line.substr(2), {}, {}});
+      transcript.ending.clear();
+    } else if (transcript.exchanges.empty() || !transcript.ending.empty()) {
+      std::fprintf(stderr, "%s:%d: an answer without a command\n", path.c_str(), number);
+      return false;
+    } else {
+      transcript.exchanges.back().expected.push_back(line);
+    }
+  }
+  return true;
+}
+
+bool run_transcript(TTranscript& transcript) {
+  const TTemporaryFolder folder;
+  if (!folder.made()) return false;
+  TScriptPlatform platform;
+  set_platform(&platform);
+  register_families();
+  TTranscriptChannel channel(transcript);
+  TScript(channel, platform).run();
+  set_platform(nullptr);
+  name_answers(transcript);
+  return true;
+}
+
+int print_differences(const TTranscript& transcript) {
+  int count = 0;
+  for (const TExchange& exchange : transcript.exchanges) {
+    if (exchange.expected == exchange.answered) continue;
+    ++count;
+    std::printf("%s:%d: > %s\n", transcript.path.c_str(), exchange.line, exchange.command.c_str());
+    print_lines("expected", exchange.expected);
+    print_lines("answered", exchange.answered);
+  }
+  return count;
+}
+
+bool write_transcript(const TTranscript& transcript) {
+  std::ofstream file(transcript.path);
+  for (const TExchange& exchange : transcript.exchanges) {
+    write_lines(file, exchange.heading);
+    file << "> " << exchange.command << '\n';
+    write_lines(file, exchange.answered);
+  }
+  write_lines(file, transcript.ending);
+  return static_cast<bool>(file.flush());
+}
+
+}  // namespace zephyl
