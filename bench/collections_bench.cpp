@@ -3,9 +3,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include <cmath>
 #include <cstdint>
-#include <cstring>
 #include <stdexcept>
 
 #include "app/start_up.h"

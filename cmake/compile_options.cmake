@@ -21,3 +21,8 @@ if(ZEPHYL_SANITIZE)
   target_compile_options(zephyl_options INTERFACE ${sanitizers})
   target_link_options(zephyl_options INTERFACE ${sanitizers})
 endif()
+
+if(ZEPHYL_FUZZ)
+  # The fuzzer is led by what it has reached in the code of the calculator.
+  target_compile_options(zephyl_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()

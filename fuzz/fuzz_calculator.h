@@ -14,11 +14,53 @@
 #include "engine/state.h"
 #include "engine/text_form.h"
 #include "platform/events.h"
+#include "platform/platform.h"
 
 namespace zephyl {
 
+// A clock that runs with every look at it, and somebody who taps a key when an evaluation takes long.
+class TFuzzPlatform : public TPlatform {
+ public:
+  bool impatient = false;
+
+  std::uint32_t tick_count() override { return ticks_ += 20; }
+  TLocalTime local_time() override { return {}; }
+  void sleep(std::uint32_t milliseconds) override { ticks_ += milliseconds; }
+  bool peek_pen_down(TPoint& at) override {
+    at = {20, 200};  // the key 7
+    return impatient && ++looks_ > 3;
+  }
+  void remove_pen_down() override {}
+  bool peek_cancel() override { return impatient; }
+  void invalidate(bool) override {}
+  bool take_paint_request() override { return false; }
+  void present(bool) override {}
+  void set_title(const char*) override {}
+  void set_wait_cursor(bool) override {}
+  void show_message(const char*, const char*) override {}
+  bool ask_question(const char*, const char*) override { return true; }
+  void play_click() override {}
+  void show_help() override {}
+  const char* data_folder() override { return "."; }
+
+  void be_impatient(bool on) {
+    impatient = on;
+    looks_ = 0;
+  }
+
+ private:
+  std::uint32_t ticks_ = 0;
+  int looks_ = 0;
+};
+
+inline TFuzzPlatform& fuzz_platform() {
+  static TFuzzPlatform platform;
+  return platform;
+}
+
 inline void start_once() {
   static const bool started = [] {
+    set_platform(&fuzz_platform());
     register_families();
     on_start();
     return true;
@@ -27,7 +69,8 @@ inline void start_once() {
 }
 
 // Evaluates an expression as the evaluate key does.
-inline void evaluate(const TExpression& expression) {
+inline void evaluate(const TExpression& expression, bool impatient = true) {
+  fuzz_platform().be_impatient(impatient);
   clear_error();
   entry_line.expression = expression;
   entry_line.cursor = expression.count;
@@ -43,7 +86,7 @@ inline void must_answer() {
   TExpression expression;
   char error[200];
   if (!text_to_tokens("2+2", expression, error, sizeof error)) std::abort();
-  evaluate(expression);
+  evaluate(expression, false);
   if (errors.error_flag || answers.ans.re != 4.0 || std::strcmp(state.result_text, "4") != 0) {
     std::fprintf(stderr, "2+2 gave '%s' (%s)\n", state.result_text, errors.error_text);
     std::abort();

@@ -1,6 +1,8 @@
 #include "app/start_up.h"
 
 #include "collections/list_families.h"
+#include "collections/matrix_families.h"
+#include "collections/string_families.h"
 #include "engine/engine_operations.h"
 #include "engine/system_variables.h"
 #include "faceplate/faceplate.h"
@@ -12,6 +14,7 @@
 #include "numerics/special_functions.h"
 #include "plot/plot_variables.h"
 #include "stats/stats.h"
+#include "tools/cash_flows.h"
 #include "tools/tvm_solver.h"
 #include "tools/tvm_state.h"
 
@@ -28,17 +31,24 @@ void register_numerics() {
   register_numeric_operators();
 }
 
+void register_collections() {
+  register_list_operations();
+  register_matrix_operations();
+  register_string_operations();
+}
+
 }  // namespace
 
 void register_families() {
   register_engine_operations();
   register_engine_variables();
   register_numerics();
-  register_list_operations();
+  register_collections();
   register_stats();
   register_plot_variables();
   register_tvm_variables();
   register_tvm_operations();
+  register_cash_flow_operations();
   register_faceplate_hooks();
 }
 

@@ -192,7 +192,6 @@ void register_list_operations() {
   register_list_values();
   register_list_editing();
   register_list_views();
-  family_registered[LIST_FAMILY] = true;
 }
 
 }  // namespace zephyl

@@ -60,7 +60,6 @@ void register_matrix_operations() {
   register_matrix_store();
   register_matrix_values();
   register_matrix_decompositions();
-  family_registered[MATRIX_FAMILY] = true;
 }
 
 }  // namespace zephyl

@@ -108,7 +108,6 @@ void register_string_editing() {
 void register_string_operations() {
   register_string_editing();
   register_string_conversions();
-  family_registered[STRING_FAMILY] = true;
 }
 
 }  // namespace zephyl

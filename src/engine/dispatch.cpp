@@ -82,8 +82,9 @@ void fill_pair(const TStepRun& run, int TArgument::*number, int (&pair)[2]) {
   }
 }
 
-void call_family(TStepRun& run, TFamilyHandler handler, TFamily family) {
-  if (!handler) return report_error(family_registered[family] ? ERR_DATA_TYPE : ERR_UNEXPECTED);
+// An operation that has a handler for other operands refuses these; one without any is not there at all.
+void call_family(TStepRun& run, TFamilyHandler handler) {
+  if (!handler) return report_error(is_filled_in(run.step.op) ? ERR_DATA_TYPE : ERR_UNEXPECTED);
   TFamilyCall call{};
   call.op = run.step.op;
   call.result_register = run.step.result;
@@ -130,18 +131,19 @@ void dispatch(TStepRun& run) {
   const int family = operation_array[step.op].family;
   if (step.op == OP_SAVE_VARIABLE && step.target >= FUNCTION_SLOT_OFFSET) return pass_operand_on(run);
   if (types.matrices > 0 || makes_matrix(step.op)) {
-    if (first_two_real(run)) call_family(run, step.handlers->matrix, MATRIX_FAMILY);
+    if (first_two_real(run)) call_family(run, step.handlers->matrix);
     return;
   }
   if (family == MATRIX_FAMILY || stores_into(step, CLASS_MATRIX)) return report_error(ERR_DATA_TYPE);
   if (types.strings > 0 || belongs_to_strings(step.op)) {
-    if (first_two_real(run)) call_family(run, step.handlers->string, STRING_FAMILY);
+    if (first_two_real(run)) call_family(run, step.handlers->string);
     return;
   }
   if (stores_into(step, CLASS_STRING)) return report_error(ERR_DATA_TYPE);
-  if (goes_to_lists(step, types)) return call_family(run, step.handlers->list, LIST_FAMILY);
+  if (goes_to_lists(step, types)) return call_family(run, step.handlers->list);
   if (family == LIST_FAMILY || store_refused(step, types)) return report_error(ERR_DATA_TYPE);
-  run_scalar_step(run, types.lists > 0);
+  // A numeric operator never maps: it refuses a list as its body once it looks at the body's value.
+  run_scalar_step(run, types.lists > 0 && step.arg_kind != KIND_NUMERIC);
 }
 
 void read_operands(TStepRun& run) {

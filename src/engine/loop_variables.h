@@ -1,5 +1,6 @@
-// The variables that numeric operators run through: their values are put away when an operator starts and come back
-// when it ends, by its result, an error or a cancel. One entry for each operator that is under way, the innermost last.
+// The variables that numeric operators run through: their values are put away when an operator starts and
+// come back when it ends, by its result, an error or a cancel. One entry for each operator that is under way,
+// the innermost last.
 #pragma once
 
 #include "engine/operation_codes.h"

@@ -64,9 +64,8 @@ struct TOperationHandlers {
 };
 extern TOperationHandlers operations[OPERATION_COUNT];
 
-// Set by a family when it has filled in its rows, by TFamily: from then on an operation that it leaves out is ERR_DATA_TYPE
-// for its operands, where before it is ERR_UNEXPECTED.
-extern bool family_registered[4];
+// True if any family has filled in its part of the operation's row, or the evaluator does it by itself.
+bool is_filled_in(TOp_Code op);
 
 // The operations that no family has filled in and the evaluator does not do itself, by code, in `rows`; their number.
 int empty_operations(TOp_Code* rows);

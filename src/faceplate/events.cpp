@@ -15,6 +15,7 @@
 #include "numerics/random.h"
 #include "platform/platform.h"
 #include "plot/plot_variables.h"
+#include "stats/stats.h"
 #include "tools/tvm_state.h"
 
 namespace zephyl {
@@ -23,6 +24,7 @@ namespace {
 
 void reset_all() {
   reset_engine();
+  reset_stats();
   reset_plot_variables();
   reset_tvm_state();
   forget_key_feedback();

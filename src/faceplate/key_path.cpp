@@ -83,12 +83,15 @@ void end_shifts(bool needs_repaint) {
   if (!needs_repaint) redraw_part(PART_SHIFTS);
 }
 
+void take_result(int result, bool needs_repaint) {
+  if (result >= 0) take_token(result);
+  if (result != KEY_CONSUMED) end_shifts(needs_repaint);
+}
+
 void press_key(int key) {
   bool needs_repaint = false;
   const int result = key_pressed_decoder(needs_repaint, key);
-  if (program_works()) return;
-  if (result >= 0) take_token(result);
-  if (result != KEY_CONSUMED) end_shifts(needs_repaint);
+  if (!program_works()) take_result(result, needs_repaint);
   if (needs_repaint) platform().invalidate(false);
 }
 
@@ -100,6 +103,7 @@ bool dropped(int key, bool tap) { return state.calcMode == STATS_MODE && !tap &&
 int key_pressed_decoder(bool& needs_repaint, int key) {
   key_click();
   if (state.calcMode < BASE_MODE || state.calcMode > LIST_MODE) return unknown_mode(needs_repaint);
+  if (state.alpha_active) return KEY_DONE;  // its keys are characters, which nothing takes yet
   return state.calcMode == COMP_MODE ? comp_key_pressed(key) : tabs_only_pressed(key);
 }
 

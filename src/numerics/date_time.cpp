@@ -23,7 +23,8 @@ int days_in_year(int year, bool basis30) { return basis30 ? 360 : is_leap_year(y
 // Days from the date to the end of its month, and whole months behind it up to `last_month`.
 int days_left(const TCalendarDate& date, int last_month, bool basis30) {
   int days = days_in_month(date.year, date.month, basis30) - date.day;
-  for (int month = date.month + 1; month <= last_month; ++month) days += days_in_month(date.year, month, basis30);
+  for (int month = date.month + 1; month <= last_month; ++month)
+    days += days_in_month(date.year, month, basis30);
   return days;
 }
 
@@ -55,7 +56,8 @@ void previous_month(TCalendarDate& date) {
 
 constexpr int LAST_YEAR = 9999;
 
-// The day counted from the first of the date's month, brought into a month; beyond the last year it is left as it is.
+// The day counted from the first of the date's month, brought into a month; beyond the last year it is left
+// as it is.
 void settle(TCalendarDate& date) {
   while (date.year <= LAST_YEAR && date.day > days_in_month(date.year, date.month, false)) {
     date.day -= days_in_month(date.year, date.month, false);
@@ -80,7 +82,8 @@ TCalendarDate split_date(double date) {
   // Slightly above 100, so that a day stored as .0731 doesn't fall to 30.
   const double day = std::trunc(frac_part(date * 100.0) * 100.01);
   const int whole_year = to_int32(year);
-  return {whole_year >= 0 && whole_year <= 99 ? whole_year + 2000 : whole_year, to_int32(month), to_int32(day)};
+  return {whole_year >= 0 && whole_year <= 99 ? whole_year + 2000 : whole_year, to_int32(month),
+          to_int32(day)};
 }
 
 double join_date(const TCalendarDate& date) { return date.year + date.month * 0.01 + date.day * 0.0001; }
@@ -93,8 +96,8 @@ int days_in_month(int year, int month, bool basis30) {
 }
 
 bool valid_date(const TCalendarDate& date, bool basis30) {
-  const bool valid = date.year >= 1 && date.year <= LAST_YEAR && date.month >= 1 && date.month <= 12 && date.day >= 1 &&
-                     date.day <= days_in_month(date.year, date.month, basis30);
+  const bool valid = date.year >= 1 && date.year <= LAST_YEAR && date.month >= 1 && date.month <= 12 &&
+                     date.day >= 1 && date.day <= days_in_month(date.year, date.month, basis30);
   if (!valid) report_error(ERR_INVALID_DATE);
   return valid;
 }
@@ -177,7 +180,9 @@ void register_date_operations() {
   operations[OP_DATE_PLUS].scalar = [](TScalarCall& call) {
     call.result = {add_days(call.args[0].re, call.args[1].re), 0.0};
   };
-  operations[OP_DAY_OF_WEEK].scalar = [](TScalarCall& call) { call.result = {day_of_week(call.args[0].re), 0.0}; };
+  operations[OP_DAY_OF_WEEK].scalar = [](TScalarCall& call) {
+    call.result = {day_of_week(call.args[0].re), 0.0};
+  };
   operations[OP_DELAY].scalar = delay_operation;
 }
 

@@ -12,7 +12,8 @@ TCalendarDate split_date(double date);
 double join_date(const TCalendarDate& date);
 // 28 to 31, 0 for a month that doesn't exist; basis30: always 30.
 int days_in_month(int year, int month, bool basis30);
-// Years 1 to 9999; ERR_INVALID_DATE for any other, and for a month or day that the calendar (or basis30) doesn't have.
+// Years 1 to 9999; ERR_INVALID_DATE for any other, and for a month or day that the calendar (or basis30)
+// doesn't have.
 bool valid_date(const TCalendarDate& date, bool basis30);
 
 // Days from the first date to the second, negative if it lies before; ERR_INVALID_DATE and 0.

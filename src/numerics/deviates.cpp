@@ -30,7 +30,8 @@ bool rounds_left(int& rounds) {
   return false;
 }
 
-// A draw from the Lorentzian around the mean, cut to an integer; y is its abscissa. Redrawn until it lies in 0 to below limit.
+// A draw from the Lorentzian around the mean, cut to an integer; y is its abscissa. Redrawn until it lies in
+// 0 to below limit.
 bool lorentzian_draw(double scale, double mean, double limit, int& rounds, double& y, double& em) {
   do {
     if (!rounds_left(rounds)) return false;
@@ -135,7 +136,8 @@ double random_normal(double mean, double deviation) {
     const double x = u - 0.449871;
     const double y = std::fabs(v) + 0.386595;
     const double q = x * x + y * (0.196 * y - 0.25472 * x);
-    if (q < 0.27597 || (q <= 0.27846 && v * v <= -4.0 * std::log(u) * u * u)) return mean + deviation * (v / u);
+    if (q < 0.27597 || (q <= 0.27846 && v * v <= -4.0 * std::log(u) * u * u))
+      return mean + deviation * (v / u);
   }
 }
 

@@ -163,7 +163,9 @@ double geometric_pdf(const TArgs& a) {
   return geometric_arguments(a) ? a[1] * real_power(1.0 - a[1], a[0] - 1.0) : 0.0;
 }
 
-double geometric_cdf(const TArgs& a) { return geometric_arguments(a) ? 1.0 - real_power(1.0 - a[1], a[0]) : 0.0; }
+double geometric_cdf(const TArgs& a) {
+  return geometric_arguments(a) ? 1.0 - real_power(1.0 - a[1], a[0]) : 0.0;
+}
 
 // --- Weibull: x or bounds, alpha, beta.
 
@@ -214,16 +216,26 @@ void register_distribution_operations() {
   const struct {
     TOp_Code op;
     TScalarHandler handler;
-  } rows[] = {{OP_NORMAL_PDF, distribution<normal_pdf>},       {OP_NORMAL_CDF, distribution<normal_cdf>},
-              {OP_T_PDF, distribution<t_pdf>},                 {OP_T_CDF, distribution<t_cdf>},
-              {OP_CHI_SQ_PDF, distribution<chi_square_pdf>},   {OP_CHI_SQ_CDF, distribution<chi_square_cdf>},
-              {OP_F_PDF, distribution<f_pdf>},                 {OP_F_CDF, distribution<f_cdf>},
-              {OP_BINOM_PDF, distribution<binomial_pdf>},      {OP_BINOM_CDF, distribution<binomial_cdf>},
-              {OP_POISSON_PDF, distribution<poisson_pdf>},     {OP_POISSON_CDF, distribution<poisson_cdf>},
-              {OP_GEOMET_PDF, distribution<geometric_pdf>},    {OP_GEOMET_CDF, distribution<geometric_cdf>},
-              {OP_WEIBULL_PDF, distribution<weibull_pdf>},     {OP_WEIBULL_CDF, distribution<weibull_cdf>},
-              {OP_GAMMA_PDF, distribution<gamma_pdf>},         {OP_GAMMA_CDF, distribution<gamma_cdf>},
-              {OP_EXPON_PDF, distribution<exponential_pdf>},   {OP_EXPON_CDF, distribution<exponential_cdf>}};
+  } rows[] = {{OP_NORMAL_PDF, distribution<normal_pdf>},
+              {OP_NORMAL_CDF, distribution<normal_cdf>},
+              {OP_T_PDF, distribution<t_pdf>},
+              {OP_T_CDF, distribution<t_cdf>},
+              {OP_CHI_SQ_PDF, distribution<chi_square_pdf>},
+              {OP_CHI_SQ_CDF, distribution<chi_square_cdf>},
+              {OP_F_PDF, distribution<f_pdf>},
+              {OP_F_CDF, distribution<f_cdf>},
+              {OP_BINOM_PDF, distribution<binomial_pdf>},
+              {OP_BINOM_CDF, distribution<binomial_cdf>},
+              {OP_POISSON_PDF, distribution<poisson_pdf>},
+              {OP_POISSON_CDF, distribution<poisson_cdf>},
+              {OP_GEOMET_PDF, distribution<geometric_pdf>},
+              {OP_GEOMET_CDF, distribution<geometric_cdf>},
+              {OP_WEIBULL_PDF, distribution<weibull_pdf>},
+              {OP_WEIBULL_CDF, distribution<weibull_cdf>},
+              {OP_GAMMA_PDF, distribution<gamma_pdf>},
+              {OP_GAMMA_CDF, distribution<gamma_cdf>},
+              {OP_EXPON_PDF, distribution<exponential_pdf>},
+              {OP_EXPON_CDF, distribution<exponential_cdf>}};
   for (const auto& row : rows) operations[row.op].scalar = row.handler;
 }
 

@@ -9,7 +9,7 @@ namespace zephyl {
 namespace {
 
 constexpr int ROUNDS = 300;
-constexpr double FLOOR = 1e-50;      // stands in for a 0 in Lentz's method
+constexpr double FLOOR = 1e-50;  // stands in for a 0 in Lentz's method
 constexpr double OVER_FLOOR = 1e50;
 constexpr double CONVERGED = 1e-20;  // so a factor must be exactly 1
 constexpr double stirling_from = 700.0;

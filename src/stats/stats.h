@@ -8,8 +8,8 @@ constexpr int STATS_LIMIT = 999;  // rows
 struct TStats {
   double x[STATS_LIMIT + 5] = {};
   double y[STATS_LIMIT + 5] = {};
-  int count = 0;            // complete rows
-  bool next_is_x = true;    // the next number entered belongs to x
+  int count = 0;          // complete rows
+  bool next_is_x = true;  // the next number entered belongs to x
 };
 extern TStats stats;
 
@@ -22,17 +22,19 @@ extern void (*show_stats_list)();
 
 void clear_stats();
 
-// Adds a number to the row being entered. From a program or an expression: ERR_STATS_SIZE at STATS_LIMIT rows.
-// Nothing while an error stands.
+// Adds a number to the row being entered. From a program or an expression: ERR_STATS_SIZE at STATS_LIMIT
+// rows. Nothing while an error stands.
 void add_stats_value(double value);
-// What the keyboard enters: the current answer. Where it can't be added a box says why. Returns whether it was.
+// What the keyboard enters: the current answer. Where it can't be added a box says why. Returns whether it
+// was.
 bool enter_answer_into_stats();
 
 void delete_stats_row(int row);
 // With no rows only the next number belongs to x again.
 void delete_last_stats_row();
 
-// One or two variables, 0 or 1; the next number belongs to x. Writing the system variable statsVar does the same.
+// One or two variables, 0 or 1; the next number belongs to x. Writing the system variable statsVar does the
+// same.
 void set_stats_variables(int statsVar);
 
 // The number of rows, 0 to STATS_LIMIT, once a whole column has been filled; the next number belongs to x.

@@ -33,11 +33,21 @@ double sum_of(TSumKind kind, TLogarithms logarithms = {}) {
     const auto x = [&] { return logarithms.x ? std::log(stats.x[i]) : stats.x[i]; };
     const auto y = [&] { return logarithms.y ? std::log(stats.y[i]) : stats.y[i]; };
     switch (kind) {
-      case SUM_X: sum += x(); break;
-      case SUM_Y: sum += y(); break;
-      case SUM_XY: sum += x() * y(); break;
-      case SUM_XX: sum += x() * x(); break;
-      case SUM_YY: sum += y() * y(); break;
+      case SUM_X:
+        sum += x();
+        break;
+      case SUM_Y:
+        sum += y();
+        break;
+      case SUM_XY:
+        sum += x() * y();
+        break;
+      case SUM_XX:
+        sum += x() * x();
+        break;
+      case SUM_YY:
+        sum += y() * y();
+        break;
     }
   }
   return sum;
@@ -107,7 +117,8 @@ bool has_regression_data() {
   return !errors.error_flag;
 }
 
-// The computation is called through a pointer that the compiler can't see into, so that its faults are read after it.
+// The computation is called through a pointer that the compiler can't see into, so that its faults are read
+// after it.
 double without_fault(TFunction function) {
   clear_faults();
   volatile TFunction opaque = function;
@@ -156,10 +167,14 @@ double predict_y(double x) {
   if (!has_regression_data()) return 0.0;
   const double a = regression_slope(), b = regression_intercept();
   switch (settings.statsRegress) {
-    case R_LINEAR: return a * x + b;
-    case R_LOGARITHMIC: return a * std::log(x) + b;
-    case R_EXPON: return b * std::exp(a * x);
-    default: return b * real_power(x, a);
+    case R_LINEAR:
+      return a * x + b;
+    case R_LOGARITHMIC:
+      return a * std::log(x) + b;
+    case R_EXPON:
+      return b * std::exp(a * x);
+    default:
+      return b * real_power(x, a);
   }
 }
 
@@ -167,10 +182,14 @@ double predict_x(double y) {
   if (!has_regression_data()) return 0.0;
   const double a = regression_slope(), b = regression_intercept();
   switch (settings.statsRegress) {
-    case R_LINEAR: return (y - b) / a;
-    case R_LOGARITHMIC: return std::exp((y - b) / a);
-    case R_EXPON: return std::log(y / b) / a;
-    default: return real_power(y / b, 1.0 / a);
+    case R_LINEAR:
+      return (y - b) / a;
+    case R_LOGARITHMIC:
+      return std::exp((y - b) / a);
+    case R_EXPON:
+      return std::log(y / b) / a;
+    default:
+      return real_power(y / b, 1.0 / a);
   }
 }
 

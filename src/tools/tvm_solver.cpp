@@ -27,8 +27,13 @@ struct TLoan {
   double s = 1.0;  // 1 + i for payments at the beginning of a period, else 1
 
   explicit TLoan(const TvmState& state)
-      : n(state.values[TVM_N]), pv(state.values[TVM_PV]), pmt(state.values[TVM_PMT]), fv(state.values[TVM_FV]),
-        py(state.values[TVM_PY]), cy(state.values[TVM_CY]), begin(state.begin) {}
+      : n(state.values[TVM_N]),
+        pv(state.values[TVM_PV]),
+        pmt(state.values[TVM_PMT]),
+        fv(state.values[TVM_FV]),
+        py(state.values[TVM_PY]),
+        cy(state.values[TVM_CY]),
+        begin(state.begin) {}
 
   double period_rate(double percent) const {
     const double rate = percent * 0.01 / cy;
@@ -77,7 +82,8 @@ double solve_fv(const TLoan& loan) {
 // At least one payment each way, and at most one of the three missing.
 bool signs_change(const TLoan& loan) {
   int negative = 0, zero = 0, positive = 0;
-  for (const double money : {loan.pv, loan.fv, loan.n * loan.pmt}) ++(money < 0.0 ? negative : money > 0.0 ? positive : zero);
+  for (const double money : {loan.pv, loan.fv, loan.n * loan.pmt})
+    ++(money < 0.0 ? negative : money > 0.0 ? positive : zero);
   return negative >= 1 && positive >= 1 && zero <= 1;
 }
 
@@ -121,7 +127,8 @@ TPayment amortize(const TvmState& state, int count) {
     payment.principal = pmt + payment.interest;
     payment.balance += payment.principal;
   }
-  if ((pmt > 0.0 && payment.interest < 0.0) || (pmt < 0.0 && payment.interest > 0.0)) payment.interest = -payment.interest;
+  if ((pmt > 0.0 && payment.interest < 0.0) || (pmt < 0.0 && payment.interest > 0.0))
+    payment.interest = -payment.interest;
   return {snapped(payment.interest), snapped(payment.principal), snapped(payment.balance)};
 }
 
@@ -140,7 +147,8 @@ double effective_rate(double nominal, double periods) {
 }
 
 double nominal_rate(double effective, double periods) {
-  return has_periods(periods) ? (real_power(1.0 + effective * 0.01, 1.0 / periods) - 1.0) * periods * 100.0 : 0.0;
+  return has_periods(periods) ? (real_power(1.0 + effective * 0.01, 1.0 / periods) - 1.0) * periods * 100.0
+                              : 0.0;
 }
 
 namespace {
@@ -161,7 +169,9 @@ void balance_operation(TScalarCall& call) {
 }
 
 // The principal paid with payments a to b.
-double principal_paid(int a, int b) { return amortize(tvm_state, b).balance - amortize(tvm_state, a - 1).balance; }
+double principal_paid(int a, int b) {
+  return amortize(tvm_state, b).balance - amortize(tvm_state, a - 1).balance;
+}
 
 bool payment_range(const TScalarCall& call, int& a, int& b) {
   a = checked_integer(call.args[0].re, 1, PAYMENT_LIMIT, ERR_DOMAIN);

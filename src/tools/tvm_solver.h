@@ -1,13 +1,13 @@
-// The time value of money: any of N, I%YR, PV, PMT and FV from the other four, the amortization of a loan, and the
-// conversion of interest rates. Money that is received is positive, money that is paid negative.
+// The time value of money: any of N, I%YR, PV, PMT and FV from the other four, the amortization of a loan,
+// and the conversion of interest rates. Money that is received is positive, money that is paid negative.
 #pragma once
 
 #include "tools/tvm_state.h"
 
 namespace zephyl {
 
-// The unknown, TVM_N to TVM_FV, from the other values of `state`; it isn't stored. Magnitudes below 1e-5 are 0. With an error
-// (ERR_ZERO_DIVIDE, ERR_NO_TVM_SIGN_CHANGE, ERR_ITERATIONS, a fault) undefined_value or 0.
+// The unknown, TVM_N to TVM_FV, from the other values of `state`; it isn't stored. Magnitudes below 1e-5 are
+// 0. With an error (ERR_ZERO_DIVIDE, ERR_NO_TVM_SIGN_CHANGE, ERR_ITERATIONS, a fault) undefined_value or 0.
 double solve_tvm(const TvmState& state, int unknown);
 
 struct TPayment {

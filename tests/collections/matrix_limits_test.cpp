@@ -49,14 +49,10 @@ bool is_finite(const MatrixRecord& matrix) {
 }
 
 // The errors that wild numbers may end in.
-const std::set<std::string> named_errors = {"Overflow",
-                                            "Division by Zero",
-                                            "Domain Error",
-                                            "Matrix is Singular",
-                                            "Matrix Not Positive Def.",
-                                            "Matrix Not Symmetric",
-                                            "Matrix Size Mismatch",
-                                            "Matrix Size Error"};
+const std::set<std::string> named_errors = {
+    "Overflow",           "Division by Zero",         "Domain Error",
+    "Matrix is Singular", "Matrix Not Positive Def.", "Matrix Not Symmetric",
+    "Matrix Not Square",  "Matrix Size Mismatch",     "Matrix Size Error"};
 
 }  // namespace
 

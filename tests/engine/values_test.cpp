@@ -69,6 +69,7 @@ TEST(values, the_number_that_is_nudged_onto_an_integer_is_that_integer) {
   const double below = 3 / 1.00000000005;
   ASSERT_EQ(frac_part(below), 0.0);
   EXPECT_EQ(checked_integer(below, 1, 5, ERR_DOMAIN), 3);
+  EXPECT_EQ(checked_integer(below, 3, 5, ERR_DOMAIN), 3) << "the integer counts, at the bound too";
 }
 
 TEST(values, magnitudes_from_two_thousand_million_on_are_no_integers) {

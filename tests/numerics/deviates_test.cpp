@@ -1,5 +1,5 @@
-// Random deviates: each one draws from the uniform generator exactly as its method says, and its draws have the
-// moments of its distribution. Programs that seed the generator depend on the former.
+// Random deviates: each one draws from the uniform generator exactly as its method says, and its draws have
+// the moments of its distribution. Programs that seed the generator depend on the former.
 #include "numerics/deviates.h"
 
 #include <gtest/gtest.h>
@@ -132,7 +132,8 @@ TEST_F(deviates, an_integer_reaches_both_bounds_and_nothing_else) {
 TEST_F(deviates, an_integer_between_equal_bounds_is_that) { EXPECT_EQ(value("randInt(7,7)"), 7.0); }
 
 TEST_F(deviates, integers_want_integer_bounds_within_a_thousand_million) {
-  for (const char* text : {"randInt(1.5,2)", "randInt(1,2.5)", "randInt(1000000001,1)", "randInt(1,-1000000001)"})
+  for (const char* text :
+       {"randInt(1.5,2)", "randInt(1,2.5)", "randInt(1000000001,1)", "randInt(1,-1000000001)"})
     EXPECT_EQ(error_of(text), "Domain Error") << text;
   EXPECT_EQ(error_of("randInt(-1000000000,1000000000)"), "");
 }
@@ -215,7 +216,8 @@ TEST_F(deviates, a_binomial_deviate_of_a_small_mean_is_a_product) {
 
 TEST_F(deviates, any_other_binomial_deviate_is_a_rejection) {
   expect_same_draws([] { return random_binomial(0.3, 100); }, [] { return rejection_binomial(0.3, 100); });
-  expect_same_draws([] { return random_binomial(0.5, 1e6); }, [] { return rejection_binomial(0.5, 1e6); }, 50);
+  expect_same_draws([] { return random_binomial(0.5, 1e6); }, [] { return rejection_binomial(0.5, 1e6); },
+                    50);
 }
 
 TEST_F(deviates, binomial_constants_follow_trials_and_probability) {
@@ -231,7 +233,8 @@ TEST_F(deviates, binomial_constants_follow_trials_and_probability) {
 }
 
 TEST_F(deviates, a_probability_above_a_half_counts_failures) {
-  expect_same_draws([] { return random_binomial(0.75, 100); }, [] { return 100 - rejection_binomial(0.25, 100); });
+  expect_same_draws([] { return random_binomial(0.75, 100); },
+                    [] { return 100 - rejection_binomial(0.25, 100); });
   expect_same_draws([] { return random_binomial(0.75, 10); }, [] { return 10 - random_binomial(0.25, 10); });
 }
 
@@ -249,7 +252,8 @@ TEST_F(deviates, certain_and_impossible_trials) {
 }
 
 TEST_F(deviates, binomial_checks) {
-  for (const char* text : {"randBin(-0.1,5)", "randBin(1.1,5)", "randBin(0.5,0)", "randBin(0.5,2.5)", "randBin(0.5,1000000001)"})
+  for (const char* text :
+       {"randBin(-0.1,5)", "randBin(1.1,5)", "randBin(0.5,0)", "randBin(0.5,2.5)", "randBin(0.5,1000000001)"})
     EXPECT_EQ(error_of(text), "Domain Error") << text;
 }
 

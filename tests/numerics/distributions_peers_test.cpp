@@ -28,7 +28,8 @@ class distributions_peers : public ::testing::Test {
     register_distribution_operations();
   }
 
-  // Through the handler: the argument table would keep one of them from being called. Not a number with an error.
+  // Through the handler: the argument table would keep one of them from being called. Not a number with an
+  // error.
   static double call(TOp_Code op, std::initializer_list<double> arguments) {
     TScalarCall call{};
     call.op = op;
@@ -71,9 +72,11 @@ TEST_F(distributions_peers, normal) {
 }
 
 TEST_F(distributions_peers, t) {
-  TAccuracy pdf("tPdf(, df 0.1 to 300", DENSITY_TOLERANCE), cdf("tCdf(, df 0.1 to 300", PROBABILITY_TOLERANCE);
+  TAccuracy pdf("tPdf(, df 0.1 to 300", DENSITY_TOLERANCE),
+      cdf("tCdf(, df 0.1 to 300", PROBABILITY_TOLERANCE);
   for (int i = 0; i < ARGUMENT_COUNT; ++i) {
-    const double df = spread_.by_magnitude(0.1, 300), a = spread_.between(-10, 10), b = spread_.between(-10, 10);
+    const double df = spread_.by_magnitude(0.1, 300), a = spread_.between(-10, 10),
+                 b = spread_.between(-10, 10);
     const boost::math::students_t peer(df);
     compare_density(pdf, OP_T_PDF, peer, {a, df});
     compare_range(cdf, OP_T_CDF, peer, {a, b, df});
@@ -84,7 +87,8 @@ TEST_F(distributions_peers, chi_square) {
   TAccuracy pdf("chiSqPdf(, df 1 to 200", DENSITY_TOLERANCE);
   TAccuracy cdf("chiSqCdf( behind its argument table, df 1 to 200", PROBABILITY_TOLERANCE);
   for (int i = 0; i < ARGUMENT_COUNT; ++i) {
-    const double df = spread_.whole(1, 200), a = spread_.by_magnitude(0.01, 300), b = spread_.by_magnitude(0.01, 300);
+    const double df = spread_.whole(1, 200), a = spread_.by_magnitude(0.01, 300),
+                 b = spread_.by_magnitude(0.01, 300);
     const boost::math::chi_squared peer(df);
     compare_density(pdf, OP_CHI_SQ_PDF, peer, {a, df});
     compare_range(cdf, OP_CHI_SQ_CDF, peer, {a, b, df});
@@ -92,7 +96,8 @@ TEST_F(distributions_peers, chi_square) {
 }
 
 TEST_F(distributions_peers, f) {
-  TAccuracy pdf("FPdf(, n and d 1 to 150", DENSITY_TOLERANCE), cdf("FCdf(, n and d 1 to 150", PROBABILITY_TOLERANCE);
+  TAccuracy pdf("FPdf(, n and d 1 to 150", DENSITY_TOLERANCE),
+      cdf("FCdf(, n and d 1 to 150", PROBABILITY_TOLERANCE);
   for (int i = 0; i < ARGUMENT_COUNT; ++i) {
     const double n = spread_.whole(1, 150), d = spread_.whole(1, 150);
     const double a = spread_.by_magnitude(0.01, 100), b = spread_.by_magnitude(0.01, 100);
@@ -103,14 +108,18 @@ TEST_F(distributions_peers, f) {
 }
 
 TEST_F(distributions_peers, binomial) {
-  TAccuracy pdf("binomPdf(, n 1 to 170", 1e-12), cdf("binomCdf(, n 1 to 690, x below n", PROBABILITY_TOLERANCE);
+  TAccuracy pdf("binomPdf(, n 1 to 170", 1e-12),
+      cdf("binomCdf(, n 1 to 690, x below n", PROBABILITY_TOLERANCE);
   for (int i = 0; i < ARGUMENT_COUNT; ++i) {
     const double p = spread_.between(0.001, 0.999);
     const int n = static_cast<int>(spread_.whole(1, 170)), many = static_cast<int>(spread_.whole(1, 690));
-    compare_density(pdf, OP_BINOM_PDF, boost::math::binomial(n, p), {spread_.whole(0, n), static_cast<double>(n), p});
+    compare_density(pdf, OP_BINOM_PDF, boost::math::binomial(n, p),
+                    {spread_.whole(0, n), static_cast<double>(n), p});
     const double x = spread_.whole(0, many - 1);
     const double own = call(OP_BINOM_CDF, {x, static_cast<double>(many), p});
-    if (own != -1.0) cdf.compare(own, boost::math::cdf(boost::math::binomial(many, p), x), 1.0, {x, static_cast<double>(many), p});
+    if (own != -1.0)
+      cdf.compare(own, boost::math::cdf(boost::math::binomial(many, p), x), 1.0,
+                  {x, static_cast<double>(many), p});
   }
 }
 
@@ -121,7 +130,8 @@ TEST_F(distributions_peers, poisson) {
     const double u = spread_.by_magnitude(0.01, 50), large = spread_.by_magnitude(0.01, 500);
     compare_density(pdf, OP_POISSON_PDF, boost::math::poisson(u), {spread_.whole(0, 170), u});
     const double x = spread_.whole(0, 600);
-    cdf.compare(call(OP_POISSON_CDF, {x, large}), boost::math::cdf(boost::math::poisson(large), x), 1.0, {x, large});
+    cdf.compare(call(OP_POISSON_CDF, {x, large}), boost::math::cdf(boost::math::poisson(large), x), 1.0,
+                {x, large});
   }
 }
 
@@ -139,7 +149,8 @@ TEST_F(distributions_peers, geometric) {
 
 // Ours is 1 - exp(-alpha x^beta); Boost's scale is alpha^(-1/beta).
 TEST_F(distributions_peers, weibull) {
-  TAccuracy pdf("weibullPdf(, alpha 0.01 to 100, beta 1 to 20", 1e-11), cdf("weibullCdf(, alpha 0.01 to 100, beta 1 to 20", 1e-13);
+  TAccuracy pdf("weibullPdf(, alpha 0.01 to 100, beta 1 to 20", 1e-11),
+      cdf("weibullCdf(, alpha 0.01 to 100, beta 1 to 20", 1e-13);
   for (int i = 0; i < ARGUMENT_COUNT; ++i) {
     const double alpha = spread_.by_magnitude(0.01, 100), beta = spread_.between(1, 20);
     const double scale = std::pow(alpha, -1 / beta);

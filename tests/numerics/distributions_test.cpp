@@ -1,5 +1,5 @@
-// Each density and distribution function: a value, every check of its arguments, and what its formula does at the
-// edges. How close the values come is in distributions_peers_test.
+// Each density and distribution function: a value, every check of its arguments, and what its formula does at
+// the edges. How close the values come is in distributions_peers_test.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -42,7 +42,8 @@ TEST_F(distributions, normal_distribution_between_equal_bounds_is_zero) {
 }
 
 TEST_F(distributions, the_standard_deviation_must_be_positive) {
-  expect_domain_errors({"normalPdf(0,0,0)", "normalPdf(0,0,-1)", "normalCdf(0,1,0,0)", "normalCdf(0,1,0,-1)"});
+  expect_domain_errors(
+      {"normalPdf(0,0,0)", "normalPdf(0,0,-1)", "normalCdf(0,1,0,0)", "normalCdf(0,1,0,-1)"});
 }
 
 TEST_F(distributions, a_distance_too_large_to_square_overflows) {
@@ -124,8 +125,9 @@ TEST_F(distributions, binomial_density_ends_where_the_factorials_end) {
 }
 
 TEST_F(distributions, binomial_density_checks) {
-  expect_domain_errors({"binomPdf(1,2,-0.1)", "binomPdf(1,2,1.1)", "binomPdf(-1,2,0.5)", "binomPdf(1.5,2,0.5)",
-                        "binomPdf(0,0,0.5)", "binomPdf(1,2.5,0.5)", "binomPdf(5,3,0.5)"});
+  expect_domain_errors({"binomPdf(1,2,-0.1)", "binomPdf(1,2,1.1)", "binomPdf(-1,2,0.5)",
+                        "binomPdf(1.5,2,0.5)", "binomPdf(0,0,0.5)", "binomPdf(1,2.5,0.5)",
+                        "binomPdf(5,3,0.5)"});
 }
 
 TEST_F(distributions, binomial_distribution) {
@@ -191,8 +193,8 @@ TEST_F(distributions, weibull) {
 }
 
 TEST_F(distributions, weibull_checks) {
-  expect_domain_errors({"weibullPdf(1,0,2)", "weibullPdf(1,-1,2)", "weibullPdf(1,2,0.5)", "weibullCdf(0,1,0,2)",
-                        "weibullCdf(0,1,2,0.99)"});
+  expect_domain_errors({"weibullPdf(1,0,2)", "weibullPdf(1,-1,2)", "weibullPdf(1,2,0.5)",
+                        "weibullCdf(0,1,0,2)", "weibullCdf(0,1,2,0.99)"});
 }
 
 TEST_F(distributions, weibull_of_a_negative_number_is_left_to_the_power) {
@@ -209,7 +211,8 @@ TEST_F(distributions, gamma) {
 
 TEST_F(distributions, gamma_checks) {
   expect_domain_errors({"gammaPdf(1,0,1)", "gammaPdf(1,1,0)", "gammaPdf(-1,1,1)", "gammaCdf(0,1,0,1)",
-                        "gammaCdf(0,1,1,-1)", "gammaCdf(-1,1,1,1)", "gammaCdf(1,-1,1,1)", "gammaPdf(0,0.5,1)"});
+                        "gammaCdf(0,1,1,-1)", "gammaCdf(-1,1,1,1)", "gammaCdf(1,-1,1,1)",
+                        "gammaPdf(0,0.5,1)"});
 }
 
 TEST_F(distributions, a_side_that_does_not_converge_counts_as_minus_one) {

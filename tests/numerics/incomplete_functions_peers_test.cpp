@@ -1,5 +1,5 @@
-// Incomplete gamma and beta functions against Boost.Math. Where ours does not converge within its 300 rounds the
-// result is -1; how often that happens is held against a bound too.
+// Incomplete gamma and beta functions against Boost.Math. Where ours does not converge within its 300 rounds
+// the result is -1; how often that happens is held against a bound too.
 #include <gtest/gtest.h>
 
 #include <boost/math/special_functions/beta.hpp>

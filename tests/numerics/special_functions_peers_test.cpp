@@ -70,7 +70,8 @@ TEST_F(special_functions_peers, beta) {
 
 // In parts of the value where the function rises or falls steeply, of the amplitude where it oscillates.
 void compare_bessel(TAccuracy& j, TAccuracy& y, double order, double x) {
-  const double expected_j = boost::math::cyl_bessel_j(order, x), expected_y = boost::math::cyl_neumann(order, x);
+  const double expected_j = boost::math::cyl_bessel_j(order, x),
+               expected_y = boost::math::cyl_neumann(order, x);
   const double amplitude = x > order ? std::hypot(expected_j, expected_y) : 0.0;
   j.compare(bessel_j(order, x), expected_j, std::max(std::fabs(expected_j), amplitude), {order, x});
   y.compare(bessel_y(order, x), expected_y, std::max(std::fabs(expected_y), amplitude), {order, x});

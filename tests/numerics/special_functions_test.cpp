@@ -1,4 +1,5 @@
-// Gamma, beta and Bessel functions as a user meets them; how close they come is in special_functions_peers_test.
+// Gamma, beta and Bessel functions as a user meets them; how close they come is in
+// special_functions_peers_test.
 #include "numerics/special_functions.h"
 
 #include <gtest/gtest.h>

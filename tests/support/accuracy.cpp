@@ -22,13 +22,14 @@ std::string listed(std::initializer_list<double> numbers) {
 }  // namespace
 
 TAccuracy::~TAccuracy() {
-  std::printf("  %-52s %8.1e  (allowed %.0e; %d arguments, worst at %s)\n", function_.c_str(), worst_, tolerance_,
-              count_, worst_place_.c_str());
+  std::printf("  %-52s %8.1e  (allowed %.0e; %d arguments, worst at %s)\n", function_.c_str(), worst_,
+              tolerance_, count_, worst_place_.c_str());
   EXPECT_GT(count_, 0) << function_;
   EXPECT_LE(worst_, tolerance_) << function_ << " at " << worst_place_;
 }
 
-void TAccuracy::compare(double actual, double expected, double scale, std::initializer_list<double> arguments) {
+void TAccuracy::compare(double actual, double expected, double scale,
+                        std::initializer_list<double> arguments) {
   ++count_;
   double error = std::fabs(actual - expected) / scale;
   if (actual == expected) error = 0.0;

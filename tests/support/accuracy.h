@@ -1,5 +1,5 @@
-// How close a function comes to a peer over many arguments: the largest error is kept, printed and held against a
-// tolerance. The figures of docs/accuracy.md are what these tests print.
+// How close a function comes to a peer over many arguments: the largest error is kept, printed and held
+// against a tolerance. The figures of docs/accuracy.md are what these tests print.
 #pragma once
 
 #include <cstdint>

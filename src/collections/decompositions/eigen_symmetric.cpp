@@ -183,12 +183,11 @@ bool find_values(TEigen& eigen, int n) {
   for (int l = 0; l < n; ++l) {
     largest = std::max(largest, std::fabs(d[l]) + std::fabs(e[l]));
     const int m = block_end(eigen, l, n, epsilon * largest);
-    if (m > l) {
-      do {
-        shift += shift_block(eigen, l, n);
-        ql_step(eigen, l, m);
-        if (poll_after(m - l)) return false;
-      } while (std::fabs(e[l]) > epsilon * largest);
+    for (int round = 0; m > l && round < eigen_round_limit; ++round) {
+      shift += shift_block(eigen, l, n);
+      ql_step(eigen, l, m);
+      if (poll_after(m - l)) return false;
+      if (!(std::fabs(e[l]) > epsilon * largest)) break;
     }
     d[l] += shift;
     e[l] = 0.0;

@@ -251,7 +251,8 @@ bool iterate_to_schur_form(TSchur& schur) {
   TIteration state;
   state.hi = schur.n - 1;
   while (state.hi >= 0) {
-    const int found = state.hi - block_start(schur, state.hi) + 1;
+    const bool stuck = state.rounds >= eigen_round_limit;
+    const int found = stuck ? 1 : state.hi - block_start(schur, state.hi) + 1;
     if (found > 2) {
       if (!run_round(schur, state, state.hi - found + 1)) return false;
       continue;

@@ -1,5 +1,5 @@
-// Operators that count their variable from one integer to another, up or down: Summ(, Prod(, Seq(; and fnEval(, which
-// takes one place.
+// Operators that count their variable from one integer to another, up or down: Summ(, Prod(, Seq(; and
+// fnEval(, which takes one place.
 
 #include "engine/errors.h"
 #include "numerics/complex_functions.h"
@@ -18,7 +18,8 @@ struct TCounter {
   bool at_end() const { return at == end; }
 };
 
-// The bounds of the first call; what their expressions give later, when the variable has moved, doesn't count.
+// The bounds of the first call; what their expressions give later, when the variable has moved, doesn't
+// count.
 bool begin_counting(TScalarCall& call, TCounter& counter) {
   const int start = checked_integer(call.args[2].re, -INTEGER_LIMIT, INTEGER_LIMIT, ERR_DOMAIN);
   const int end = checked_integer(call.args[3].re, -INTEGER_LIMIT, INTEGER_LIMIT, ERR_DOMAIN);

@@ -1,5 +1,6 @@
-// The derivative of a function at a point: Ridders (1982), "Accurate computation of F'(x) and F'(x)F''(x)", polynomial
-// extrapolation of central differences, as in Numerical Recipes (2nd edition, 5.7) with a first step of 0.01.
+// The derivative of a function at a point: Ridders (1982), "Accurate computation of F'(x) and F'(x)F''(x)",
+// polynomial extrapolation of central differences, as in Numerical Recipes (2nd edition, 5.7) with a first
+// step of 0.01.
 #pragma once
 
 namespace zephyl {
@@ -20,7 +21,7 @@ class TDerivative {
 
   double at_ = 0.0;
   double step_ = 0.0;
-  double above_ = 0.0;      // sample at at_ + step_
+  double above_ = 0.0;  // sample at at_ + step_
   bool have_above_ = false;
   int round_ = 0;
   double a_[ROWS][ROWS] = {};  // Neville's table

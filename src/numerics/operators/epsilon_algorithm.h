@@ -1,5 +1,5 @@
-// Wynn's epsilon algorithm for the limit of a sequence (QUADPACK, dqelg), with an estimate of the absolute error from
-// the last three results.
+// Wynn's epsilon algorithm for the limit of a sequence (QUADPACK, dqelg), with an estimate of the absolute
+// error from the last three results.
 #pragma once
 
 namespace zephyl {

@@ -1,13 +1,14 @@
-// The 61-point Gauss-Kronrod rule on one interval, fed sample by sample (Piessens and others, 1983, "QUADPACK", dqk61).
+// The 61-point Gauss-Kronrod rule on one interval, fed sample by sample (Piessens and others, 1983,
+// "QUADPACK", dqk61).
 #pragma once
 
 namespace zephyl {
 
 struct TRuleResult {
   double integral = 0.0;
-  double error = 0.0;           // estimate of the absolute error
-  double magnitude = 0.0;       // integral of the function's magnitude
-  double deviation = 0.0;       // integral of its distance from the mean
+  double error = 0.0;      // estimate of the absolute error
+  double magnitude = 0.0;  // integral of the function's magnitude
+  double deviation = 0.0;  // integral of its distance from the mean
 };
 
 class TGaussKronrod {
@@ -22,6 +23,8 @@ class TGaussKronrod {
 
  private:
   double place_of(int index) const;
+  double left_sample(int pair) const { return samples_[1 + 2 * pair]; }
+  double right_sample(int pair) const { return samples_[2 + 2 * pair]; }
 
   double centre_ = 0.0, half_length_ = 0.0;
   double samples_[POINTS] = {};

@@ -1,5 +1,5 @@
-// fnInt(: the quadrature as an operator. It doesn't nest, neither with another operator nor with a custom function
-// between.
+// fnInt(: the quadrature as an operator. It doesn't nest, neither with another operator nor with a custom
+// function between.
 
 #include <cmath>
 
@@ -23,7 +23,8 @@ TQuadrature quadrature;
 // The step that calls a frame's operator.
 const TStep* operator_of_frame(const TCompiled& compiled, int frame) {
   for (int i = 0; i < compiled.count; ++i)
-    if (compiled.steps[i].arg_kind == KIND_NUMERIC && compiled.steps[i].frame == frame) return &compiled.steps[i];
+    if (compiled.steps[i].arg_kind == KIND_NUMERIC && compiled.steps[i].frame == frame)
+      return &compiled.steps[i];
   return nullptr;
 }
 
@@ -46,7 +47,8 @@ double tolerance_of(const TScalarCall& call) {
 void integral_operation(TScalarCall& call) {
   if (begins(call)) {
     if (lies_in_integral(*call.step) || runs_loop_of(OP_FN_INT)) return report_error(ERR_NESTED_FNINT);
-    if (begin_operator(call)) ask_at(call, quadrature.start(call.args[2].re, call.args[3].re, tolerance_of(call)));
+    if (begin_operator(call))
+      ask_at(call, quadrature.start(call.args[2].re, call.args[3].re, tolerance_of(call)));
     return;
   }
   double place = 0.0;

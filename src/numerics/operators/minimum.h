@@ -1,6 +1,6 @@
-// The least value of a function between two bounds: a scan, then Brent (1973), "Algorithms for Minimization without
-// Derivatives", in the form of Numerical Recipes (2nd edition, 10.2) with a tolerance of 0: the search ends when the
-// interval has collapsed onto the place found, or after 2000 rounds.
+// The least value of a function between two bounds: a scan, then Brent (1973), "Algorithms for Minimization
+// without Derivatives", in the form of Numerical Recipes (2nd edition, 10.2) with a tolerance of 0: the
+// search ends when the interval has collapsed onto the place found, or after 2000 rounds.
 #pragma once
 
 namespace zephyl {

@@ -1,6 +1,7 @@
-// What the numeric operators over expressions share. Each is a resumable machine: the evaluator runs the expression and
-// calls the operator with its value; the operator sets its variable to the next place and asks for another round, or
-// leaves its result. A fault that the operator's own arithmetic raises is read by the evaluator.
+// What the numeric operators over expressions share. Each is a resumable machine: the evaluator runs the
+// expression and calls the operator with its value; the operator sets its variable to the next place and asks
+// for another round, or leaves its result. A fault that the operator's own arithmetic raises is read by the
+// evaluator.
 #pragma once
 
 #include "engine/compiled.h"
@@ -23,7 +24,8 @@ inline void ask_at(TScalarCall& call, double x) { ask_at(call, TValue{x, 0.0}); 
 // The operator's result; its variable has its old value again, and its next call begins anew.
 void finish_operator(TScalarCall& call, const TValue& result);
 
-// The state of an operator's method, one for each operator that can be under way: the innermost is the one that is called.
+// The state of an operator's method, one for each operator that can be under way: the innermost is the one
+// that is called.
 template <typename TMethod>
 TMethod& method_state(const TScalarCall& call) {
   static TMethod states[LOOP_VARIABLE_LIMIT + 1];

@@ -149,7 +149,8 @@ void TQuadrature::sort_in() {
 
 double TQuadrature::width_of_worst() const { return std::fabs(intervals_[worst_].b - intervals_[worst_].a); }
 
-// Before the smallest intervals are halved, the errors of the larger ones are brought down: true if one of them is next.
+// Before the smallest intervals are halved, the errors of the larger ones are brought down: true if one of
+// them is next.
 bool TQuadrature::skip_larger_intervals() {
   const int top = last_ > 2 + INTERVALS / 2 ? INTERVALS + 3 - last_ : last_;
   for (int k = rank_; k <= top; ++k) {
@@ -230,7 +231,8 @@ void TQuadrature::judge_extrapolation() {
   if (!trouble_ && !extrapolation_trouble_) return;
   if (extrapolation_trouble_) error_ += correction_;
   const bool comparable = result_ != 0.0 && area_ != 0.0;
-  const bool sum_is_better = comparable ? error_ / std::fabs(result_) > error_sum_ / std::fabs(area_) : error_ > error_sum_;
+  const bool sum_is_better =
+      comparable ? error_ / std::fabs(result_) > error_sum_ / std::fabs(area_) : error_ > error_sum_;
   if (sum_is_better) sum_up();
 }
 

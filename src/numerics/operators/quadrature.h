@@ -1,6 +1,7 @@
-// Adaptive quadrature over a finite interval with extrapolation: QAGS of Piessens, de Doncker-Kapenga, Ueberhuber and
-// Kahaner (1983), "QUADPACK", dqagse, with the 61-point rule. Fed sample by sample. The tolerance is relative. Where
-// the method doesn't converge its best estimate is the result, and the error estimate tells.
+// Adaptive quadrature over a finite interval with extrapolation: QAGS of Piessens, de Doncker-Kapenga,
+// Ueberhuber and Kahaner (1983), "QUADPACK", dqagse, with the 61-point rule. Fed sample by sample. The
+// tolerance is relative. Where the method doesn't converge its best estimate is the result, and the error
+// estimate tells.
 #pragma once
 
 #include "numerics/operators/epsilon_algorithm.h"
@@ -65,7 +66,7 @@ class TQuadrature {
   int tries_ = 0;
   double small_ = 0.0, larger_error_ = 0.0, error_test_ = 0.0, correction_ = 0.0;
   int round_off_1_ = 0, round_off_2_ = 0, round_off_3_ = 0;
-  bool trouble_ = false;              // a limit was reached or round-off seen: stop
+  bool trouble_ = false;                // a limit was reached or round-off seen: stop
   bool extrapolation_trouble_ = false;  // round-off in the extrapolation
 };
 

@@ -71,7 +71,8 @@ void TRoot::keep_bracket() {
   }
 }
 
-// The step of the inverse quadratic (or linear) interpolation where it may be trusted, else half of the interval.
+// The step of the inverse quadratic (or linear) interpolation where it may be trusted, else half of the
+// interval.
 double TRoot::interpolation(double tolerance, double half_width) {
   double p = 0.0, q = 0.0;
   const double s = fb_ / fa_;
@@ -91,7 +92,9 @@ double TRoot::interpolation(double tolerance, double half_width) {
   return p / q;
 }
 
-TRootOutcome TRoot::end_of_search() const { return std::fabs(fb_) >= pole_from ? ROOT_NOT_FOUND : ROOT_FOUND; }
+TRootOutcome TRoot::end_of_search() const {
+  return std::fabs(fb_) >= pole_from ? ROOT_NOT_FOUND : ROOT_FOUND;
+}
 
 TRootOutcome TRoot::choose_place(double& place) {
   keep_bracket();

@@ -1,5 +1,5 @@
-// A zero of a function between two bounds: a scan for a change of sign, then the method of van Wijngaarden, Dekker and
-// Brent (1973), in the form of Numerical Recipes (2nd edition, 9.3).
+// A zero of a function between two bounds: a scan for a change of sign, then the method of van Wijngaarden,
+// Dekker and Brent (1973), in the form of Numerical Recipes (2nd edition, 9.3).
 #pragma once
 
 namespace zephyl {
@@ -10,8 +10,8 @@ class TRoot {
  public:
   // The place of the first sample. Bounds in either order.
   double start(double lower, double upper);
-  // Takes the sample at the last place. ROOT_SEARCHING with the next place; ROOT_FOUND with result(). ROOT_NOT_FOUND:
-  // no change of sign in the scan, or the change was a pole.
+  // Takes the sample at the last place. ROOT_SEARCHING with the next place; ROOT_FOUND with result().
+  // ROOT_NOT_FOUND: no change of sign in the scan, or the change was a pole.
   TRootOutcome next(double sample, double& place);
   double result() const { return b_; }
 
