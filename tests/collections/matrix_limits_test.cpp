@@ -112,7 +112,7 @@ TEST_F(matrices, tap_on_a_key_cancels_a_long_expression_of_eigenvalues) {
   for (int i = 0; i < 30; ++i)
     for (int j = 0; j < 30; ++j) stores.matrices[0].cells[i][j] = std::sin(31.0 * i * i + 7.0 * j);
   platform_.ticks_per_look = 600;
-  platform_.pen_downs.push_back({100, 100});
+  platform_.pen_downs.push_back({20, 200});
   EXPECT_EQ(matrix("eigenVal([A])"), "Operation Canceled");
 }
 

@@ -193,7 +193,7 @@ TEST_F(operators, a_tap_ends_each_of_them) {
         "Summ(listSum(Seq(y,y,1,900)),x,1,1000000000)", "Summ(fnInt(sin(1/y),y,0.001,1),x,1,1000000000)",
         "Summ(fnMin(y,y,0,x),x,1,1000000000)", "Summ(fnRoot(y-x,y,0,x),x,1,1000000000)",
         "Summ(fnDeriv(y,y,x),x,1,1000000000)", "Summ(fnEval(y,y,x),x,1,1000000000)"}) {
-    platform_.pen_downs.assign(1, {5, 5});
+    platform_.pen_downs.assign(1, {20, 200});
     EXPECT_EQ(error_of(text), "Operation Canceled") << text;
     expect_variable_restored(text);
     EXPECT_EQ(platform_.pen_downs.size(), 1u) << "the tap is still to be acted upon";
@@ -205,7 +205,7 @@ TEST_F(operators, a_tap_ends_each_of_them) {
 TEST_F(operators, a_tap_in_the_middle_stops_within_six_tenths_of_a_second) {
   platform_.ticks_per_look = 1;
   eval("Summ(x,x,1,100000)");
-  platform_.pen_downs.assign(1, {5, 5});
+  platform_.pen_downs.assign(1, {20, 200});
   const std::uint32_t before = platform_.ticks;
   EXPECT_EQ(error_of("Summ(x,x,1,1000000000)"), "Operation Canceled");
   EXPECT_LE(platform_.ticks - before, 600u);
@@ -218,7 +218,7 @@ TEST_F(operators, what_a_poll_computes_is_no_fault_of_the_body) {
     return infinity > 0.0 ? TAP_NO_KEY : TAP_KEY;
   };
   platform_.ticks_per_look = 600;
-  for (int i = 0; i < 50; ++i) platform_.pen_downs.push_back({5, 5});
+  for (int i = 0; i < 50; ++i) platform_.pen_downs.push_back({20, 200});
   EXPECT_EQ(value("Summ(x,x,1,10000)"), 50005000.0);
   EXPECT_TRUE(platform_.pen_downs.empty());
 }
