@@ -14,34 +14,22 @@
 #include "engine/state.h"
 #include "engine/text_form.h"
 #include "platform/events.h"
-#include "platform/platform.h"
+#include "platform/silent_platform.h"
 
 namespace zephyl {
 
 // A clock that runs with every look at it, and somebody who taps a key when an evaluation takes long.
-class TFuzzPlatform : public TPlatform {
+class TFuzzPlatform : public TSilentPlatform {
  public:
   bool impatient = false;
 
   std::uint32_t tick_count() override { return ticks_ += 20; }
-  TLocalTime local_time() override { return {}; }
   void sleep(std::uint32_t milliseconds) override { ticks_ += milliseconds; }
   bool peek_pen_down(TPoint& at) override {
     at = {20, 200};  // the key 7
     return impatient && ++looks_ > 3;
   }
-  void remove_pen_down() override {}
   bool peek_cancel() override { return impatient; }
-  void invalidate(bool) override {}
-  bool take_paint_request() override { return false; }
-  void present(bool) override {}
-  void set_title(const char*) override {}
-  void set_wait_cursor(bool) override {}
-  void show_message(const char*, const char*) override {}
-  bool ask_question(const char*, const char*) override { return true; }
-  void play_click() override {}
-  void show_help() override {}
-  const char* data_folder() override { return "."; }
 
   void be_impatient(bool on) {
     impatient = on;

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "collections/matrix_families.h"
+#include "collections/matrix_view.h"
 #include "engine/evaluator.h"
 #include "engine/faults.h"
 #include "engine/operation_table.h"
@@ -60,6 +61,7 @@ void register_matrix_operations() {
   register_matrix_store();
   register_matrix_values();
   register_matrix_decompositions();
+  register_matrix_views();
 }
 
 }  // namespace zephyl

@@ -23,7 +23,10 @@ double rows_of(const MatrixRecord& matrix) { return row_count(matrix); }
 double columns_of(const MatrixRecord& matrix) { return column_count(matrix); }
 
 double trace_of(const MatrixRecord& matrix) {
-  if (!is_square(matrix)) return matrix_failed(ERR_NOT_SQUARE);
+  if (!is_square(matrix)) {
+    report_error(ERR_NOT_SQUARE);
+    return 0.0;
+  }
   double sum = 0.0;
   for (int i = 0; i <= matrix.last_row; ++i) sum += matrix.cells[i][i];
   return sum;

@@ -1,19 +1,35 @@
 #include "collections/matrix_view.h"
 
+#include "engine/hooks.h"
+#include "engine/memory.h"
+
 namespace zephyl {
 
 TMatrixView matrix_view;
 
-void reset_matrix_view(int matrix) {
-  matrix_view.top_row[matrix] = 0;
-  matrix_view.left_col[matrix] = 0;
-  matrix_view.cursor_row[matrix] = 0;
-  matrix_view.cursor_col[matrix] = 0;
+void clear_stored_matrix(int matrix) {
+  matrix_view.top_row[matrix] = matrix_view.left_col[matrix] = 0;
+  matrix_view.cursor_row[matrix] = matrix_view.cursor_col[matrix] = 0;
+  clear_matrix(stores.matrices[matrix]);
 }
 
-void clear_stored_matrix(int matrix) {
-  clear_matrix(stores.matrices[matrix]);
-  reset_matrix_view(matrix);
+namespace {
+
+// Takes its place in front of the owners of other items.
+void (*clear_other_item)(int item) = nullptr;
+
+void clear_matrix_item(int item) {
+  if (item == CLEAR_MATRICES)
+    for (int matrix = 0; matrix < STORE_COUNT; ++matrix) clear_stored_matrix(matrix);
+  clear_other_item(item);
+}
+
+}  // namespace
+
+void register_matrix_views() {
+  if (clear_other_item) return;
+  clear_other_item = hooks.clear_item;
+  hooks.clear_item = clear_matrix_item;
 }
 
 }  // namespace zephyl

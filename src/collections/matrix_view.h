@@ -14,10 +14,10 @@ struct TMatrixView {
 };
 extern TMatrixView matrix_view;
 
-// Back to the first cell, as it is with every clear of that matrix.
-void reset_matrix_view(int matrix);
-
-// Clears a matrix of the store, 0 to 10, together with its view.
+// Clears a stored matrix, 0 to 10, and its place on the screen.
 void clear_stored_matrix(int matrix);
+
+// From then on clrMem( of the matrices clears their places too.
+void register_matrix_views();
 
 }  // namespace zephyl

@@ -12,6 +12,7 @@
 #include "faceplate/modes.h"
 #include "faceplate/result_line_view.h"
 #include "plot/plot_variables.h"
+#include "stats/stats.h"
 
 namespace zephyl {
 
@@ -106,6 +107,18 @@ int evaluate(int) {
   return KEY_DONE;
 }
 
+// The result goes where the fourth tab leads: to the statistics, also from COMP and BASE.
+int evaluate_and_enter(int) {
+  const bool to_statistics = state.dynamic_mode == STATS_MODE || state.dynamic_mode == BASE_MODE;
+  if (evaluate_expression(false) && to_statistics) enter_answer_into_stats();
+  return KEY_DONE;
+}
+
+int remove_last_entry(int) {
+  delete_last_stats_row();
+  return KEY_DONE;
+}
+
 int plot_variable(int) {
   constexpr int variables[] = {SLOT_X, SLOT_THETA, SLOT_T};  // by TPlotType
   if (plot_variables.plotType == PLOT_3D) return KEY_DONE;
@@ -162,8 +175,8 @@ constexpr TKeyRow comp_keys[] = {
     /* 23 */ {token(23), token(173), token(123)},
     /* 24 */ {token(24), none, none},
     /* 25 */ {token(25, IDLE_ONLY), none, none},
-    /* 26 */ {action(evaluate, IDLE_ONLY), none, action(plot_variable)},
-    /* 27 */ {action(all_clear, NOT_RUNNING), none, none},
+    /* 26 */ {action(evaluate_and_enter, IDLE_ONLY), none, action(plot_variable)},
+    /* 27 */ {action(all_clear, NOT_RUNNING), action(remove_last_entry, NOT_ON_ERROR), none},
     /* 28 */ {token(28), none, none},
     /* 29 */ {token(29), none, none},
     /* 30 */ {token(30), none, none},

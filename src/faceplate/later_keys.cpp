@@ -21,7 +21,6 @@ constexpr TLaterRow later_keys[] = {
     {25, MEANING_BLUE, "Select Function"},
     {25, MEANING_ORANGE, "Select Variable, system variables"},
     {26, MEANING_BLUE, "Plot Functions"},
-    {27, MEANING_BLUE, "the statistics list"},
     {27, MEANING_ORANGE, "Select Items to Clear"},
     {44, MEANING_PLAIN, "program edit"},
     {45, MEANING_PLAIN, "plots"},

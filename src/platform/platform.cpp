@@ -1,28 +1,10 @@
 #include "platform/platform.h"
 
+#include "platform/silent_platform.h"
+
 namespace zephyl {
 
 namespace {
-
-class TSilentPlatform : public TPlatform {
- public:
-  std::uint32_t tick_count() override { return 0; }
-  TLocalTime local_time() override { return {}; }
-  void sleep(std::uint32_t) override {}
-  bool peek_pen_down(TPoint&) override { return false; }
-  void remove_pen_down() override {}
-  bool peek_cancel() override { return false; }
-  void invalidate(bool) override {}
-  bool take_paint_request() override { return false; }
-  void present(bool) override {}
-  void set_title(const char*) override {}
-  void set_wait_cursor(bool) override {}
-  void show_message(const char*, const char*) override {}
-  bool ask_question(const char*, const char*) override { return true; }
-  void play_click() override {}
-  void show_help() override {}
-  const char* data_folder() override { return "."; }
-};
 
 TSilentPlatform silent_platform;
 TPlatform* current_platform = &silent_platform;

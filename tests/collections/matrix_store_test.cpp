@@ -173,4 +173,14 @@ TEST_F(matrices, view_goes_back_to_the_first_cell_with_a_clear) {
   EXPECT_EQ(stored('D'), "1");
 }
 
+TEST_F(matrices, all_views_go_back_when_the_matrices_are_cleared) {
+  define('C', "1 2; 3 4");
+  for (int i = 0; i < STORE_COUNT; ++i) matrix_view.top_row[i] = matrix_view.cursor_col[i] = 3;
+  eval("clrMem(3)");
+  EXPECT_EQ(matrix_view.top_row[2], 3);
+  eval("clrMem(4)");
+  EXPECT_EQ(stored('C'), "undefined");
+  for (int i = 0; i < STORE_COUNT; ++i) EXPECT_EQ(matrix_view.top_row[i] + matrix_view.cursor_col[i], 0) << i;
+}
+
 }  // namespace zephyl

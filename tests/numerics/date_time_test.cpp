@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/errors.h"
+#include "engine/hooks.h"
 #include "support/calculator.h"
 
 namespace zephyl {
@@ -248,6 +249,7 @@ TEST_F(date_time, no_delay_at_all) {
 }
 
 TEST_F(date_time, a_tap_ends_a_delay) {
+  hooks.tap_kind = [](int, int) { return TAP_KEY; };
   platform_.pen_downs.push_back({20, 200});
   EXPECT_EQ(error_of("delay(1000000000)"), "Operation Canceled");
   EXPECT_LE(platform_.ticks, 1100u);

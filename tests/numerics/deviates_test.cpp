@@ -8,6 +8,7 @@
 #include <functional>
 
 #include "engine/errors.h"
+#include "engine/hooks.h"
 #include "numerics/random.h"
 #include "support/calculator.h"
 
@@ -193,6 +194,7 @@ TEST_F(deviates, a_poisson_mean_without_digits_left_comes_to_an_end) {
 }
 
 TEST_F(deviates, a_tap_ends_a_rejection_that_does_not_end) {
+  hooks.tap_kind = [](int, int) { return TAP_KEY; };
   platform_.ticks_per_look = 1000;
   platform_.pen_downs.push_back({20, 200});
   EXPECT_EQ(error_of("randPois(1e308)"), "Operation Canceled");

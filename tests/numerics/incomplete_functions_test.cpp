@@ -57,6 +57,13 @@ TEST(incomplete_functions, the_jump_shows_in_the_incomplete_gamma_function) {
   EXPECT_NEAR(gamma_p(701.0, 650.0), 0.0245 / 701.0, 2e-6);
 }
 
+// Where the sum of its parameters alone reaches 700, it is too large by that factor.
+TEST(incomplete_functions, the_jump_shows_in_the_incomplete_beta_function) {
+  const double below = beta_i(699.49, 0.5, 0.997), above = beta_i(699.51, 0.5, 0.997);
+  EXPECT_GT(below, 0.0);
+  EXPECT_NEAR(above / below, 700.0, 1.0);
+}
+
 TEST(incomplete_functions, beta_outside_of_its_interval_is_not_computed) {
   EXPECT_EQ(beta_i(2.0, 3.0, -0.1), -1.0);
   EXPECT_EQ(beta_i(2.0, 3.0, 1.1), -1.0);

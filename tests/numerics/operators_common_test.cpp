@@ -28,7 +28,10 @@ std::string with_body(std::string text, const std::string& body) {
 
 class operators : public calculator {
  protected:
-  operators() { memory_set_both(SLOT_X, 7.5, 0); }
+  operators() {
+    memory_set_both(SLOT_X, 7.5, 0);
+    hooks.tap_kind = [](int, int) { return TAP_KEY; };
+  }
   ~operators() override { EXPECT_EQ(loop_variable_count(), 0); }
 
   void expect_variable_restored(const std::string& text, double re = 7.5) {

@@ -79,27 +79,35 @@ void compare_bessel(TAccuracy& j, TAccuracy& y, double order, double x) {
 
 TEST_F(special_functions_peers, bessel_functions_of_whole_order) {
   TAccuracy j("Jn(n,x), n 0 to 50, x 0.1 to 500", 1e-11), y("Yn(n,x), n 0 to 50, x 0.1 to 500", 1e-11);
-  for (int i = 0; i < ARGUMENT_COUNT; ++i)
-    compare_bessel(j, y, spread_.whole(0, 50), spread_.by_magnitude(0.1, 500));
+  for (int i = 0; i < ARGUMENT_COUNT; ++i) {
+    const double order = spread_.whole(0, 50), x = spread_.by_magnitude(0.1, 500);
+    compare_bessel(j, y, order, x);
+  }
 }
 
 TEST_F(special_functions_peers, bessel_functions_of_fractional_order) {
   TAccuracy j("Jn(v,x), v 0 to 50, x 0.1 to 500", 1e-11), y("Yn(v,x), v 0 to 50, x 0.1 to 500", 1e-11);
-  for (int i = 0; i < ARGUMENT_COUNT; ++i)
-    compare_bessel(j, y, spread_.between(0, 50), spread_.by_magnitude(0.1, 500));
+  for (int i = 0; i < ARGUMENT_COUNT; ++i) {
+    const double order = spread_.between(0, 50), x = spread_.by_magnitude(0.1, 500);
+    compare_bessel(j, y, order, x);
+  }
 }
 
 // Below 5 the rounding of the continued fractions has not added up yet.
 TEST_F(special_functions_peers, bessel_functions_of_small_arguments) {
   TAccuracy j("Jn(v,x), v 0 to 20, x 0.01 to 5", 1e-12), y("Yn(v,x), v 0 to 20, x 0.01 to 5", 1e-12);
-  for (int i = 0; i < ARGUMENT_COUNT; ++i)
-    compare_bessel(j, y, spread_.between(0, 20), spread_.by_magnitude(0.01, 5));
+  for (int i = 0; i < ARGUMENT_COUNT; ++i) {
+    const double order = spread_.between(0, 20), x = spread_.by_magnitude(0.01, 5);
+    compare_bessel(j, y, order, x);
+  }
 }
 
 TEST_F(special_functions_peers, bessel_functions_of_large_arguments) {
   TAccuracy j("Jn(v,x), v 0 to 400, x 500 to 5000", 1e-9), y("Yn(v,x), v 0 to 400, x 500 to 5000", 1e-9);
-  for (int i = 0; i < 500; ++i)
-    compare_bessel(j, y, spread_.between(0, 400), spread_.by_magnitude(500, 5000));
+  for (int i = 0; i < 500; ++i) {
+    const double order = spread_.between(0, 400), x = spread_.by_magnitude(500, 5000);
+    compare_bessel(j, y, order, x);
+  }
 }
 
 }  // namespace

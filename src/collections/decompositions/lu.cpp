@@ -28,7 +28,7 @@ bool find_scales(const MatrixRecord& matrix, int n) {
 
 // Column j of both factors: each cell less the products of the columns before.
 void reduce_column(MatrixRecord& packed, int n, int j) {
-  double column[MATRIX_LIMIT];
+  double column[MATRIX_LIMIT] = {};
   for (int i = 0; i < n; ++i) {
     const double* row = packed.cells[i];
     const int terms = std::min(i, j);

@@ -23,8 +23,6 @@ class TGaussKronrod {
 
  private:
   double place_of(int index) const;
-  double left_sample(int pair) const { return samples_[1 + 2 * pair]; }
-  double right_sample(int pair) const { return samples_[2 + 2 * pair]; }
 
   double centre_ = 0.0, half_length_ = 0.0;
   double samples_[POINTS] = {};
