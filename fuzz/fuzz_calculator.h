@@ -23,11 +23,11 @@ class TFuzzPlatform : public TSilentPlatform {
  public:
   bool impatient = false;
 
-  std::uint32_t tick_count() override { return ticks_ += 20; }
+  std::uint32_t tick_count() override { return ticks_ += 600; }
   void sleep(std::uint32_t milliseconds) override { ticks_ += milliseconds; }
   bool peek_pen_down(TPoint& at) override {
     at = {20, 200};  // the key 7
-    return impatient && ++looks_ > 3;
+    return impatient && ++looks_ > 1;
   }
   bool peek_cancel() override { return impatient; }
 
