@@ -1,5 +1,6 @@
 #include "platform/platform.h"
 
+#include "platform/dialog.h"
 #include "platform/silent_platform.h"
 
 namespace zephyl {
@@ -10,6 +11,12 @@ TSilentPlatform silent_platform;
 TPlatform* current_platform = &silent_platform;
 
 }  // namespace
+
+// Nobody is there to answer.
+void TSilentPlatform::run_dialog(TDialog& dialog) {
+  dialog.tell(DIALOG_OPENED);
+  cancel_dialog(dialog);
+}
 
 TPlatform& platform() { return *current_platform; }
 

@@ -4,10 +4,21 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "platform/geometry.h"
 
 namespace zephyl {
+
+class TDialog;
+
+// What a file dialog asks for.
+struct TFileQuestion {
+  const char* title = "";
+  const char* type_name = "";  // "State Files"
+  const char* extension = "";  // without the dot
+  bool save = false;           // else an existing file is opened
+};
 
 struct TLocalTime {
   int year = 2024;
@@ -51,6 +62,10 @@ class TPlatform {
   virtual void show_message(const char* text, const char* title) = 0;
   // A box with Yes and No.
   virtual bool ask_question(const char* text, const char* title) = 0;
+  // Shows a dialog (dialog.h) and returns when it is closed: it tells the dialog DIALOG_OPENED, then what the user does.
+  virtual void run_dialog(TDialog& dialog) = 0;
+  // Asks for a file; false on Cancel. path: whole, with the extension.
+  virtual bool choose_file(const TFileQuestion& question, std::string& path) = 0;
 
   // The sound of a key; returns at once. The path is that of "click.wav" in the data folder.
   virtual void play_click() = 0;

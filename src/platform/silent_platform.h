@@ -21,6 +21,8 @@ class TSilentPlatform : public TPlatform {
   void set_wait_cursor(bool) override {}
   void show_message(const char*, const char*) override {}
   bool ask_question(const char*, const char*) override { return true; }
+  void run_dialog(TDialog& dialog) override;
+  bool choose_file(const TFileQuestion&, std::string&) override { return false; }
   void play_click() override {}
   void show_help() override {}
   const char* data_folder() override { return "."; }

@@ -35,6 +35,23 @@ void TTestPlatform::show_message(const char* text, const char* title_word) {
   messages.push_back(std::string(title_word) + " | " + text);
 }
 
+void TTestPlatform::run_dialog(TDialog& dialog) {
+  dialogs.push_back(std::to_string(dialog.id()) + " " + dialog.title);
+  dialog.tell(DIALOG_OPENED);
+  if (!dialog_answers.empty()) {
+    const auto answer_it = dialog_answers.front();
+    dialog_answers.pop_front();
+    answer_it(dialog);
+  }
+  cancel_dialog(dialog);
+}
+
+bool TTestPlatform::choose_file(const TFileQuestion&, std::string& path) {
+  path = file_answers.empty() ? "" : file_answers.front();
+  if (!file_answers.empty()) file_answers.pop_front();
+  return !path.empty();
+}
+
 calculator::calculator() {
   set_platform(&platform_);
   register_families();

@@ -5,9 +5,11 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
+#include "platform/dialog.h"
 #include "platform/platform.h"
 
 namespace zephyl {
@@ -21,6 +23,9 @@ class TTestPlatform : public TPlatform {
   std::deque<TPoint> pen_downs;       // waiting in the queue
   bool cancel_waiting = false;
   bool paint_requested = false;
+  std::vector<std::string> dialogs;   // "ID TITLE" of those that opened
+  std::deque<std::function<void(TDialog&)>> dialog_answers;
+  std::deque<std::string> file_answers;
   int clicks = 0;
   std::string title;
   // Milliseconds that pass with each look at the clock.
@@ -39,6 +44,10 @@ class TTestPlatform : public TPlatform {
   void set_wait_cursor(bool) override {}
   void show_message(const char* text, const char* title_word) override;
   bool ask_question(const char*, const char*) override { return answer; }
+  // The oldest of dialog_answers plays the user; where there is none the dialog is cancelled.
+  void run_dialog(TDialog& dialog) override;
+  // The oldest of file_answers; "" or none: Cancel.
+  bool choose_file(const TFileQuestion& question, std::string& path) override;
   void play_click() override { ++clicks; }
   void show_help() override {}
   const char* data_folder() override { return "."; }

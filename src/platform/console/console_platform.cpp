@@ -6,6 +6,7 @@
 
 #include "platform/console/data_folder.h"
 #include "platform/console/interrupts.h"
+#include "platform/dialog.h"
 
 namespace zephyl {
 
@@ -73,5 +74,12 @@ bool TConsolePlatform::ask_question(const char* text, const char* title) {
   for (int c = first; c != '\n' && c != EOF;) c = std::getc(stdin);
   return first == 'y' || first == 'Y';
 }
+
+void TConsolePlatform::run_dialog(TDialog& dialog) {
+  dialog.tell(DIALOG_OPENED);
+  cancel_dialog(dialog);
+}
+
+bool TConsolePlatform::choose_file(const TFileQuestion&, std::string&) { return false; }
 
 }  // namespace zephyl

@@ -29,6 +29,8 @@ class TConsolePlatform : public TPlatform {
   void set_wait_cursor(bool) override {}
   void show_message(const char* text, const char* title) override;
   bool ask_question(const char* text, const char* title) override;
+  void run_dialog(TDialog& dialog) override;
+  bool choose_file(const TFileQuestion& question, std::string& path) override;
   void play_click() override {}
   void show_help() override {}
   const char* data_folder() override { return folder_.c_str(); }

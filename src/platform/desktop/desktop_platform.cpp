@@ -14,6 +14,7 @@
 #include "platform/desktop/clipboard.h"
 #include "platform/desktop/window_place.h"
 #include "platform/events.h"
+#include "platform/dialog.h"
 
 namespace zephyl {
 
@@ -208,5 +209,12 @@ void TDesktopPlatform::show_help() {
   const QString file = QString::fromStdString(folder_) + "/Zephyl_help.chm";
   if (QFileInfo::exists(file)) QDesktopServices::openUrl(QUrl::fromLocalFile(file));
 }
+
+void TDesktopPlatform::run_dialog(TDialog& dialog) {
+  dialog.tell(DIALOG_OPENED);
+  cancel_dialog(dialog);
+}
+
+bool TDesktopPlatform::choose_file(const TFileQuestion&, std::string&) { return false; }
 
 }  // namespace zephyl

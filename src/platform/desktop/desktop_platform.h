@@ -41,6 +41,8 @@ class TDesktopPlatform : public TPlatform {
   void set_wait_cursor(bool on) override;
   void show_message(const char* text, const char* title) override;
   bool ask_question(const char* text, const char* title) override;
+  void run_dialog(TDialog& dialog) override;
+  bool choose_file(const TFileQuestion& question, std::string& path) override;
   void play_click() override { click_.play(); }
   void show_help() override;
   const char* data_folder() override { return folder_.c_str(); }

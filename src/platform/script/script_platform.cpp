@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <ctime>
 
+#include "platform/dialog.h"
 #include "platform/events.h"
 
 namespace zephyl {
@@ -98,6 +99,17 @@ bool TScriptPlatform::ask_question(const char*, const char*) {
   const bool given = answer;
   answer = true;
   return given;
+}
+
+void TScriptPlatform::run_dialog(TDialog& dialog) {
+  dialog.tell(DIALOG_OPENED);
+  cancel_dialog(dialog);
+}
+
+bool TScriptPlatform::choose_file(const TFileQuestion&, std::string& path) {
+  path = file;
+  file.clear();
+  return !path.empty();
 }
 
 }  // namespace zephyl

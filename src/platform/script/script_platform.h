@@ -58,6 +58,8 @@ class TScriptPlatform : public TPlatform {
   void set_wait_cursor(bool) override {}
   void show_message(const char* text, const char* title_word) override;
   bool ask_question(const char* text, const char* title_word) override;
+  void run_dialog(TDialog& dialog) override;
+  bool choose_file(const TFileQuestion& question, std::string& path) override;
   void play_click() override { ++sounds; }
   void show_help() override {}
   const char* data_folder() override { return folder.c_str(); }
