@@ -10,6 +10,7 @@
 #include "faceplate/resources.h"
 #include "platform/platform.h"
 #include "plot/plot_variables.h"
+#include "plot/zoom_locks.h"
 
 namespace zephyl {
 
@@ -90,6 +91,16 @@ void paint_trace_leds(TSurface& surface) {
     blit_bitmap(surface, i == active ? "green_trace_led" : "grey_trace_led", 12 + 21 * i, 221);
 }
 
+// A lamp is green while its axis is locked against zooming.
+void paint_plot_leds(TSurface& surface) {
+  const bool surface_plot = plot_variables.plotType == PLOT_3D;
+  const auto paint_led = [&surface](bool on, int y) {
+    draw_picture(surface, on ? "green_led_gif" : "red_led_gif", 102, y);
+  };
+  paint_led(zoom_locks.x, surface_plot ? 242 : 250);
+  paint_led(zoom_locks.y, surface_plot ? 259 : 269);
+}
+
 struct TIndicator {
   TScreenPart part;
   int modes;
@@ -110,6 +121,7 @@ constexpr TIndicator indicators[] = {
     {PART_ANGLE, mode_bit(COMP_MODE), small_key(200, 132), paint_angle},
     {PART_BASE_BITS, mode_bit(BASE_MODE), small_key(122, 72), paint_base_bits},
     {PART_RUN, DIGIT_KEY_MODES, small_key(5, 72), paint_run},
+    {PART_PLOT_LEDS, mode_bit(PLOT_MODE), {102, 242, 110, 277}, paint_plot_leds},
     {PART_TRACE_LEDS, mode_bit(PLOT_MODE), {12, 221, 77, 223}, paint_trace_leds},
 };
 

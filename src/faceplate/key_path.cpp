@@ -6,7 +6,7 @@
 #include "faceplate/hit_test.h"
 #include "faceplate/indicators.h"
 #include "faceplate/key_feedback.h"
-#include "faceplate/keys_comp.h"
+#include "faceplate/key_maps.h"
 #include "faceplate/modes.h"
 #include "faceplate/typed_keys.h"
 #include "platform/platform.h"
@@ -23,30 +23,9 @@ void key_click() {
   if (settings.keyClick) platform().play_click();
 }
 
-// The first of the six tabs in the key table of a mode; -1 for a screen without tabs.
-int first_tab_key(int mode) {
-  switch (mode) {
-    case PROGRAM_EDIT_MODE:
-      return 18;
-    case PLOT_MODE:
-      return 12;
-    case MATRIX_MODE:
-    case LIST_MODE:
-      return 0;
-    case PERIODIC_MODE:
-      return -1;
-    default:
-      return 43;
-  }
-}
-
-// The modes whose key maps are still to come: only the ways to another mode work.
-int tabs_only_pressed(int key) {
-  const int first = first_tab_key(state.calcMode);
-  if (first >= 0 && key >= first && key < first + TAB_COUNT) press_tab(key - first);
-  if (state.calcMode == PERIODIC_MODE && key == 0) set_mode(COMP_MODE, false);
-  return KEY_DONE;
-}
+// By TCalcMode.
+constexpr const TKeyMap* key_maps[] = {&base_key_map,     &comp_key_map, &stats_key_map,  &program_key_map,
+                                       &periodic_key_map, &plot_key_map, &matrix_key_map, &list_key_map};
 
 int unknown_mode(bool& needs_repaint) {
   platform().show_message("Invalid calculator mode", "key_pressed_decoder");
@@ -104,7 +83,7 @@ int key_pressed_decoder(bool& needs_repaint, int key) {
   key_click();
   if (state.calcMode < BASE_MODE || state.calcMode > LIST_MODE) return unknown_mode(needs_repaint);
   if (state.alpha_active) return KEY_DONE;  // its keys are characters, which nothing takes yet
-  return state.calcMode == COMP_MODE ? comp_key_pressed(key) : tabs_only_pressed(key);
+  return press_mapped_key(*key_maps[state.calcMode], key);
 }
 
 void handle_faceplate_input(int x, int y, int character, int cursor_key) {

@@ -130,6 +130,7 @@ void paint_plot(TSurface& surface) {
   draw_picture(surface,
                skinned_name(surface_plot ? "plot_calculator_3d_gif" : "plot_calculator_function_gif"), 0, 0);
   paint_tabs(surface);
+  paint_indicator(surface, PART_PLOT_LEDS);
   paint_indicator(surface, PART_TRACE_LEDS);
 }
 

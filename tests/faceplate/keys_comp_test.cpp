@@ -1,6 +1,6 @@
 // Every key of COMP_MODE in each of its meanings.
 
-#include "faceplate/keys_comp.h"
+#include "faceplate/key_maps.h"
 
 #include "engine/errors.h"
 #include "engine/expression.h"
@@ -242,7 +242,7 @@ TEST_F(keys_comp, a_key_without_its_subsystem_changes_nothing) {
   tap_key(33);
   for (int key = 0; key < calculator_keys.count; ++key)
     for (const TKeyMeaning meaning : {MEANING_PLAIN, MEANING_BLUE, MEANING_ORANGE}) {
-      if (!is_later_key(key, meaning)) continue;
+      if (!is_later_key(COMP_MODE, key, meaning)) continue;
       if (meaning != MEANING_PLAIN) tap_key(meaning == MEANING_BLUE ? BLUE_KEY : ORANGE_KEY);
       tap_key(key);
       EXPECT_EQ(codes(), "33") << "key " << key;
@@ -253,8 +253,8 @@ TEST_F(keys_comp, a_key_without_its_subsystem_changes_nothing) {
 }
 
 TEST_F(keys_comp, a_number_that_is_no_key_does_nothing) {
-  EXPECT_EQ(comp_key_pressed(52), -2);
-  EXPECT_EQ(comp_key_pressed(-1), -2);
+  EXPECT_EQ(press_mapped_key(comp_key_map, 52), -2);
+  EXPECT_EQ(press_mapped_key(comp_key_map, -1), -2);
 }
 
 }  // namespace
