@@ -5,7 +5,11 @@
 #include "engine/calculator.h"
 #include "engine/expression.h"
 #include "engine/hooks.h"
+#include "engine/memory.h"
 #include "engine/state.h"
+#include "engine/tokens.h"
+#include "faceplate/dialogs/clear_items.h"
+#include "faceplate/dialogs/select_variable.h"
 #include "faceplate/indicators.h"
 #include "faceplate/key_path.h"
 #include "faceplate/modes.h"
@@ -98,6 +102,27 @@ int scroll_right(int) {
 
 int remove_last_stats_entry(int) {
   delete_last_stats_row();
+  return KEY_DONE;
+}
+
+int recall_variable(int) {
+  bool by_value = false;
+  const int chosen = choose_recall_variable(by_value);
+  if (chosen == NO_VARIABLE) return KEY_DONE;
+  if (by_value && chosen < SLOT_MATRIX_A) {
+    insert_variable_value(chosen);
+    return KEY_DONE;
+  }
+  return chosen < SLOT_COUNT ? recall_token(chosen) : chosen;
+}
+
+int store_variable(int) {
+  const int slot = choose_store_variable();
+  return slot == NO_VARIABLE ? KEY_DONE : store_token(slot);
+}
+
+int choose_items_to_clear(int) {
+  show_items_to_clear();
   return KEY_DONE;
 }
 

@@ -27,6 +27,11 @@ int scroll_right(int key);
 
 int remove_last_stats_entry(int key);
 
+// The dialogs of the memory key and of the things to clear.
+int recall_variable(int key);
+int store_variable(int key);
+int choose_items_to_clear(int key);
+
 // The six tabs of the screens with digit keys, from key 43 on.
 int press_calculator_tab(int key);
 

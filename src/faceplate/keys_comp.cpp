@@ -6,6 +6,10 @@
 #include "engine/memory.h"
 #include "engine/state.h"
 #include "engine/tokens.h"
+#include "faceplate/alpha_entry.h"
+#include "faceplate/dialogs/select_expression.h"
+#include "faceplate/dialogs/select_test.h"
+#include "faceplate/dialogs/surface_variable.h"
 #include "faceplate/indicators.h"
 #include "faceplate/key_actions.h"
 #include "faceplate/key_maps.h"
@@ -15,6 +19,8 @@
 namespace zephyl {
 
 namespace {
+
+constexpr int SLOT_U = SLOT_T + 1;  // v behind it
 
 int toggle_hyp(int) {
   state.hyp_shift = !state.hyp_shift;
@@ -45,10 +51,30 @@ int angle_mark(int) {
   return marks[settings.angleMode];
 }
 
+int surface_variable() {
+  const int chosen = choose_surface_variable();
+  return chosen < 0 ? KEY_DONE : recall_token(SLOT_U + chosen);
+}
+
 int plot_variable(int) {
   constexpr int variables[] = {SLOT_X, SLOT_THETA, SLOT_T};  // by TPlotType
-  if (plot_variables.plotType == PLOT_3D) return KEY_DONE;
+  if (plot_variables.plotType == PLOT_3D) return surface_variable();
   return recall_token(variables[plot_variables.plotType]);
+}
+
+int enter_test(int) {
+  const int test = choose_test();
+  return test < 0 ? KEY_DONE : test;
+}
+
+int take_expression_back(int) {
+  show_expressions();
+  return KEY_DONE;
+}
+
+int write_string(int) {
+  start_alpha_entry(ALPHA_STRING);
+  return KEY_DONE;
 }
 
 // first and last key, plain, blue, orange
@@ -61,24 +87,25 @@ constexpr TKeyRow rows[] = {
     {5, 7, action(trigonometric)},
     {8, 8, token(8, NOT_RUNNING)},
     {9, 9, token(9, NOT_RUNNING)},
-    {10, 10, none},
+    {10, 10, action(recall_variable, IDLE_ONLY), action(store_variable, IDLE_ONLY)},
     {11, 11, token(11), token(111)},
     {12, 12, token(12), token(112)},
     {13, 13, token(13), token(113)},
-    {14, 14, token(14)},
+    {14, 14, token(14), action(enter_test, IDLE_ONLY)},
     {15, 15, token(15), token(115)},
     {16, 16, action(cycle_angle, NOT_RUNNING), action(angle_mark)},
     {17, 17, token(17), token(117), token(217)},
     {18, 18, token(18), token(120)},
     {19, 19, token(20), token(19)},
-    {20, 20, action(delete_at_cursor, NOT_RUNNING)},
+    {20, 20, action(delete_at_cursor, NOT_RUNNING), action(take_expression_back, IDLE_ONLY)},
     {21, 21, action(move_left, NOT_RUNNING), action(move_left, NOT_RUNNING)},
     {22, 22, action(move_right, NOT_RUNNING), action(move_right, NOT_RUNNING)},
     {23, 23, token(23), token(173), token(123)},
-    {24, 24, token(24)},
+    {24, 24, token(24), none, action(write_string, IDLE_ONLY)},
     {25, 25, token(25, IDLE_ONLY)},
-    {26, 26, action(evaluate_and_enter, IDLE_ONLY), none, action(plot_variable)},
-    {27, 27, action(all_clear, NOT_RUNNING), action(remove_last_stats_entry, NOT_ON_ERROR)},
+    {26, 26, action(evaluate_and_enter, IDLE_ONLY), none, action(plot_variable, IDLE_ONLY)},
+    {27, 27, action(all_clear, NOT_RUNNING), action(remove_last_stats_entry, NOT_ON_ERROR),
+     action(choose_items_to_clear, IDLE_ONLY)},
     {28, 41, action(enter_key_number)},
     {42, 42, action(evaluate, NOT_ON_ERROR)},
     {43, 48, action(press_calculator_tab)},

@@ -6,6 +6,8 @@
 #include "collections/matrix_screen.h"
 #include "engine/records.h"
 #include "engine/state.h"
+#include "faceplate/dialogs/table_size.h"
+#include "faceplate/dialogs/table_variable.h"
 #include "faceplate/key_actions.h"
 #include "faceplate/key_maps.h"
 #include "faceplate/key_path.h"
@@ -64,6 +66,16 @@ int step_right(int) { return scroll_columns(1); }
 int step_up(int) { return scroll_rows(-1); }
 int step_down(int) { return scroll_rows(1); }
 
+int choose_size(int) {
+  shows_matrix() ? show_matrix_size() : show_list_size();
+  return repaint();
+}
+
+int enter_variable(int) {
+  const int token = shows_matrix() ? choose_matrix_token() : choose_list_token();
+  return token < 0 ? KEY_DONE : token;
+}
+
 int choose_variable(int key) {
   const int variable = key == ANSWER_KEY ? ANSWER_RECORD : key - FIRST_VARIABLE;
   shows_matrix() ? choose_matrix(variable) : choose_list(variable);
@@ -80,8 +92,8 @@ constexpr TKeyRow matrix_rows[] = {
     {0, 5, action(press_table_tab)},
     {6, 6, none},  // functions
     {7, 7, action(evaluate_here, IDLE_ONLY)},
-    {8, 8, none},  // size
-    {9, 9, none},  // variable
+    {8, 8, action(choose_size, IDLE_ONLY)},
+    {9, 9, action(enter_variable, IDLE_ONLY)},
     {10, 10, action(evaluate_and_enter_here, IDLE_ONLY)},
     {11, 11, action(page_left)},
     {12, 12, action(page_right)},
@@ -102,8 +114,8 @@ constexpr TKeyRow list_rows[] = {
     {0, 5, action(press_table_tab)},
     {6, 6, none},  // functions
     {7, 7, action(evaluate_here, IDLE_ONLY)},
-    {8, 8, none},  // size
-    {9, 9, none},  // variable
+    {8, 8, action(choose_size, IDLE_ONLY)},
+    {9, 9, action(enter_variable, IDLE_ONLY)},
     {10, 10, action(evaluate_and_enter_here, IDLE_ONLY)},
     {11, 12, none},  // a list has one column
     {13, 13, action(page_up)},

@@ -3,6 +3,8 @@
 #include <iterator>
 
 #include "engine/state.h"
+#include "faceplate/dialogs/stats_list.h"
+#include "faceplate/dialogs/stats_summary.h"
 #include "faceplate/indicators.h"
 #include "faceplate/key_actions.h"
 #include "faceplate/key_maps.h"
@@ -30,6 +32,16 @@ int clear_statistics(int) {
   return KEY_DONE;
 }
 
+int list_statistics(int) {
+  show_stats_rows();
+  return KEY_DONE;
+}
+
+int sum_up_statistics(int) {
+  show_stats_summary();
+  return KEY_DONE;
+}
+
 // The statistics values stand 1000 and, with the blue shift, 1100 above the keys.
 int statistics_value(int key) { return 1000 + key + (state.blue_shift ? 100 : 0); }
 
@@ -37,13 +49,13 @@ int statistics_value(int key) { return 1000 + key + (state.blue_shift ? 100 : 0)
 constexpr TKeyRow rows[] = {
     {0, 0, action(toggle_blue)},
     {1, 1, action(switch_variables, NOT_RUNNING)},
-    {2, 2, none},
+    {2, 2, action(list_statistics, IDLE_ONLY)},
     {3, 3, token(3), token(203)},
     {4, 4, token(4), token(204)},
     {5, 5, token(1005)},
     {6, 8, action(statistics_value)},
     {9, 9, action(cycle_regression, NOT_RUNNING), token(1109)},
-    {10, 10, none},
+    {10, 10, action(recall_variable, IDLE_ONLY), action(store_variable, IDLE_ONLY)},
     {11, 16, action(statistics_value)},
     {17, 17, token(17), token(1117)},
     {18, 18, action(remove_last_stats_entry, NOT_ON_ERROR), token(1118)},
@@ -51,9 +63,10 @@ constexpr TKeyRow rows[] = {
     {20, 20, action(delete_at_cursor, NOT_RUNNING), action(do_nothing)},
     {21, 21, action(move_left, NOT_RUNNING), action(move_left, NOT_RUNNING)},
     {22, 22, action(move_right, NOT_RUNNING), action(move_right, NOT_RUNNING)},
-    {23, 25, action(enter_key_number)},
+    {23, 23, token(23), action(sum_up_statistics, IDLE_ONLY)},
+    {24, 25, action(enter_key_number)},
     {26, 26, action(evaluate_and_enter, IDLE_ONLY)},
-    {27, 27, action(all_clear, NOT_RUNNING)},
+    {27, 27, action(all_clear, NOT_RUNNING), action(choose_items_to_clear, IDLE_ONLY)},
     {28, 41, action(enter_key_number)},
     {42, 42, action(evaluate, NOT_ON_ERROR)},
     {43, 48, action(press_calculator_tab)},

