@@ -16,6 +16,7 @@
 #include "faceplate/title.h"
 #include "numerics/random.h"
 #include "platform/platform.h"
+#include "plot/drawing.h"
 #include "plot/plot_variables.h"
 #include "plot/zoom_locks.h"
 #include "stats/stats.h"
@@ -32,6 +33,7 @@ void reset_all() {
   reset_stats();
   reset_plot_variables();
   zoom_locks = {};
+  reset_drawing();
   reset_tvm_state();
   forget_key_feedback();
 }

@@ -6,6 +6,7 @@
 #include "faceplate/hit_test.h"
 #include "faceplate/indicators.h"
 #include "faceplate/modes.h"
+#include "faceplate/resources.h"
 #include "faceplate/result_line_view.h"
 #include "faceplate/title.h"
 #include "stats/stats.h"
@@ -20,6 +21,7 @@ void register_faceplate_hooks() {
   hooks.set_mode = set_mode;
   hooks.tap_kind = tap_kind;
   show_stats_list = show_stats_rows;
+  hooks.character_glyph = [](unsigned char character) { return &character_glyph(character); };
 }
 
 }  // namespace zephyl

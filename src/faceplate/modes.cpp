@@ -11,6 +11,7 @@
 #include "faceplate/dialogs/plot_note.h"
 #include "faceplate/title.h"
 #include "platform/platform.h"
+#include "plot/drawing.h"
 #include "plot/plot_variables.h"
 
 namespace zephyl {
@@ -29,8 +30,12 @@ bool plot_function_defined() {
   return std::any_of(first, first + SLOTS_OF_A_TYPE, [](const TExpression& slot) { return slot.count > 0; });
 }
 
+bool nothing_to_plot() {
+  return plot_variables.enablePlots && !plot_function_defined() && !drawing_present();
+}
+
 void show_plot(bool ask) {
-  if (ask && plot_variables.enablePlots && !plot_function_defined()) show_plot_note();
+  if (ask && nothing_to_plot()) show_plot_note();
   show_mode(PLOT_MODE);
   hooks.plot_changed();
 }

@@ -171,6 +171,12 @@ TEST_F(plot_note, stays_away_with_a_function_of_the_type) {
   EXPECT_EQ(platform_.dialogs, std::vector<std::string>{"187 Note"});
 }
 
+TEST_F(plot_note, stays_away_where_something_is_drawn) {
+  eval("Line(0,0,5,5)");
+  tap_key(45);
+  EXPECT_TRUE(platform_.dialogs.empty());
+}
+
 TEST_F(plot_note, stays_away_where_plots_are_disabled) {
   plot_variables.enablePlots = 0;
   tap_key(45);
