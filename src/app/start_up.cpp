@@ -12,6 +12,7 @@
 #include "numerics/numerics.h"
 #include "numerics/operators/operators.h"
 #include "numerics/special_functions.h"
+#include "persistence/units.h"
 #include "plot/plot_variables.h"
 #include "stats/stats.h"
 #include "tools/cash_flows.h"
@@ -49,6 +50,7 @@ void register_families() {
   register_tvm_variables();
   register_tvm_operations();
   register_cash_flow_operations();
+  register_units();
   register_faceplate_hooks();
 }
 
