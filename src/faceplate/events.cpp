@@ -14,6 +14,7 @@
 #include "faceplate/title.h"
 #include "numerics/random.h"
 #include "platform/platform.h"
+#include "plot/drawing.h"
 #include "plot/plot_variables.h"
 #include "stats/stats.h"
 #include "tools/tvm_state.h"
@@ -26,6 +27,7 @@ void reset_all() {
   reset_engine();
   reset_stats();
   reset_plot_variables();
+  reset_drawing();
   reset_tvm_state();
   forget_key_feedback();
 }
