@@ -12,7 +12,9 @@
 #include "numerics/numerics.h"
 #include "numerics/operators/operators.h"
 #include "numerics/special_functions.h"
+#include "persistence/state_file.h"
 #include "persistence/units.h"
+#include "plot/drawing.h"
 #include "plot/plot_variables.h"
 #include "stats/stats.h"
 #include "tools/cash_flows.h"
@@ -47,10 +49,12 @@ void register_families() {
   register_collections();
   register_stats();
   register_plot_variables();
+  register_drawing();
   register_tvm_variables();
   register_tvm_operations();
   register_cash_flow_operations();
   register_units();
+  register_state_operations();
   register_faceplate_hooks();
 }
 

@@ -15,6 +15,7 @@
 #include "numerics/random.h"
 #include "persistence/constants.h"
 #include "platform/platform.h"
+#include "plot/drawing.h"
 #include "plot/plot_variables.h"
 #include "stats/stats.h"
 #include "tools/tvm_state.h"
@@ -27,6 +28,7 @@ void reset_all() {
   reset_engine();
   reset_stats();
   reset_plot_variables();
+  reset_drawing();
   reset_tvm_state();
   forget_key_feedback();
 }

@@ -2,12 +2,10 @@
 // keys may be called in any mode and then only change what the next plot shows.
 #pragma once
 
-#include "platform/surface.h"
+#include "plot/plot_mapping.h"
 
 namespace zephyl {
 
-constexpr int PLOT_WIDTH = 226;
-constexpr int PLOT_HEIGHT = 180;
 // Where the plot surface lies on the screen.
 constexpr int PLOT_LEFT = 7;
 constexpr int PLOT_TOP = 6;

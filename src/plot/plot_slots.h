@@ -36,8 +36,8 @@ int free_plot_slot();
 // The colour of the curve or surface that begins at `slot`: of the slot itself; a pair has that of its index, a
 // triple that of its first slot.
 TColour plot_colour(int plot_type, int slot);
-// The name of the box in the colour of a slot 0 to 5: "BLUE_BOX".
-const char* colour_box_name(int slot);
+// The name of the box in that colour: "BLUE_BOX".
+const char* colour_box_name(int plot_type, int slot);
 
 // The slot that the trace cursor follows, by plot type: the first of its pair or triple.
 struct TTraceFunctions {
