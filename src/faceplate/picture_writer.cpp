@@ -9,6 +9,11 @@ namespace {
 constexpr int GREYS = 256;
 constexpr int GREY_BITS = 8;
 
+// As draw_gif_file takes it apart: five bits of blue in the highest places, six of green, five of red.
+int colour_word(TColour colour) {
+  return (blue_of(colour) >> 3) << 11 | (green_of(colour) >> 2) << 5 | red_of(colour) >> 3;
+}
+
 // Goes over a picture and gives two bytes for each pixel, the low one first.
 struct TPairSource {
   const TColour* next;
@@ -16,7 +21,7 @@ struct TPairSource {
   bool high = false;
 
   int next_byte() {
-    if (!high) colour = pack_565(*next++);
+    if (!high) colour = colour_word(*next++);
     const int byte = high ? colour >> 8 : colour & 255;
     high = !high;
     return byte;
