@@ -12,6 +12,8 @@
 #include "numerics/numerics.h"
 #include "numerics/operators/operators.h"
 #include "numerics/special_functions.h"
+#include "persistence/state_file.h"
+#include "persistence/units.h"
 #include "plot/drawing.h"
 #include "plot/plot_variables.h"
 #include "stats/stats.h"
@@ -53,6 +55,8 @@ void register_families() {
   register_tvm_operations();
   register_cash_flow_operations();
   register_molecular_mass();
+  register_units();
+  register_state_operations();
   register_faceplate_hooks();
 }
 

@@ -15,6 +15,7 @@
 #include "faceplate/screens.h"
 #include "faceplate/title.h"
 #include "numerics/random.h"
+#include "persistence/constants.h"
 #include "platform/platform.h"
 #include "plot/drawing.h"
 #include "plot/plot_variables.h"
@@ -48,6 +49,7 @@ void on_start() {
   seed_random(0.0);
   clear_calculator(true);
   check_function_arguments();
+  load_units_and_constants(false);
   state.init_done = true;
   refresh_title();
   set_plot_defaults();
