@@ -58,6 +58,8 @@ void enter_plot_function();
 bool plot_pen_down(int x, int y);
 void plot_pen_move(int x, int y);
 void plot_pen_up(int x, int y);
+// A drag that is under way has no effect any more.
+void forget_pen();
 
 // --- The window's title: "Function (trace)". Reports an unknown type or cursor.
 void plot_title(char* out, int size);
