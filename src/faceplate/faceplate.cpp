@@ -29,7 +29,7 @@ void draw_image(TSurface& surface, const char* name, int x, int y) {
 }
 
 void show_plot_picture(const TSurface& plot) {
-  if (state.calcMode != PLOT_MODE) return;
+  if (state.calcMode != PLOT_MODE || state.alpha_active) return;
   screen_surface().blit(PLOT_LEFT, PLOT_TOP, PLOT_WIDTH, PLOT_HEIGHT, plot, 0, 0);
   platform().present(true);
 }
