@@ -31,6 +31,7 @@ struct TRunningProgram {
 };
 
 struct TFuncFrame;
+struct TBitmap;
 
 // What a custom function's first statement declares.
 struct TFunctionHeader {
@@ -46,6 +47,8 @@ struct THooks {
   void (*redraw_title)() = [] {};
   void (*set_mode)(int mode, bool ask) = nullptr;  // null: the mode is only stored
   TTapKind (*tap_kind)(int x, int y) = [](int, int) { return TAP_KEY; };
+  // The line glyph of a character, 17 pixels high; null: there are no glyphs.
+  const TBitmap* (*character_glyph)(unsigned char character) = [](unsigned char) -> const TBitmap* { return nullptr; };
   // plot
   void (*plot_changed)() = [] {};         // the plot must be drawn again
   void (*request_plot_redraw)() = [] {};  // a drawing operation ran

@@ -5,6 +5,7 @@
 #include "faceplate/hit_test.h"
 #include "faceplate/indicators.h"
 #include "faceplate/modes.h"
+#include "faceplate/resources.h"
 #include "faceplate/result_line_view.h"
 #include "faceplate/title.h"
 
@@ -17,6 +18,7 @@ void register_faceplate_hooks() {
   hooks.redraw_title = refresh_title;
   hooks.set_mode = set_mode;
   hooks.tap_kind = tap_kind;
+  hooks.character_glyph = [](unsigned char character) { return &character_glyph(character); };
 }
 
 }  // namespace zephyl
