@@ -12,6 +12,7 @@
 #include "numerics/numerics.h"
 #include "numerics/operators/operators.h"
 #include "numerics/special_functions.h"
+#include "plot/drawing.h"
 #include "plot/plot_variables.h"
 #include "stats/stats.h"
 #include "tools/cash_flows.h"
@@ -46,6 +47,7 @@ void register_families() {
   register_collections();
   register_stats();
   register_plot_variables();
+  register_drawing();
   register_tvm_variables();
   register_tvm_operations();
   register_cash_flow_operations();

@@ -2,6 +2,8 @@
 
 #include "platform/events.h"
 
+#include "collections/list_view.h"
+#include "collections/matrix_view.h"
 #include "engine/calculator.h"
 #include "engine/faults.h"
 #include "engine/operation_table.h"
@@ -14,7 +16,9 @@
 #include "faceplate/title.h"
 #include "numerics/random.h"
 #include "platform/platform.h"
+#include "plot/drawing.h"
 #include "plot/plot_variables.h"
+#include "plot/zoom_locks.h"
 #include "stats/stats.h"
 #include "tools/tvm_state.h"
 
@@ -24,8 +28,12 @@ namespace {
 
 void reset_all() {
   reset_engine();
+  list_view = {};
+  matrix_view = {};
   reset_stats();
   reset_plot_variables();
+  zoom_locks = {};
+  reset_drawing();
   reset_tvm_state();
   forget_key_feedback();
 }

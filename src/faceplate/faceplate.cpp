@@ -1,6 +1,7 @@
 #include "faceplate/faceplate.h"
 
 #include "engine/hooks.h"
+#include "faceplate/dialogs/stats_list.h"
 #include "faceplate/entry_line_view.h"
 #include "faceplate/hit_test.h"
 #include "faceplate/indicators.h"
@@ -8,6 +9,7 @@
 #include "faceplate/resources.h"
 #include "faceplate/result_line_view.h"
 #include "faceplate/title.h"
+#include "stats/stats.h"
 
 namespace zephyl {
 
@@ -18,6 +20,7 @@ void register_faceplate_hooks() {
   hooks.redraw_title = refresh_title;
   hooks.set_mode = set_mode;
   hooks.tap_kind = tap_kind;
+  show_stats_list = show_stats_rows;
   hooks.character_glyph = [](unsigned char character) { return &character_glyph(character); };
 }
 

@@ -2,6 +2,7 @@
 
 #include "engine/expression.h"
 #include "engine/state.h"
+#include "faceplate/alpha_view.h"
 #include "faceplate/display.h"
 #include "faceplate/entry_line_view.h"
 #include "faceplate/gif.h"
@@ -87,8 +88,16 @@ void paint_decimal_comma(TSurface& surface) {
   draw_picture(surface, skinned_name("comma_button_gif"), 51, 270);
 }
 
+// What stands in the upper row of the display.
+void paint_upper_line(TSurface& surface) {
+  if (state.alpha_active)
+    paint_alpha_text(surface);
+  else if (shows_entry_line())
+    paint_entry_line(surface, entry_line.cursor_shown);
+}
+
 void paint_lines(TSurface& surface) {
-  if (shows_entry_line()) paint_entry_line(surface, entry_line.cursor_shown);
+  paint_upper_line(surface);
   paint_result_line(surface);
 }
 
@@ -118,7 +127,7 @@ void paint_program_edit(TSurface& surface) {
   paint_tabs(surface);
   surface.fill(PROGRAM_LINE_RECT, display_colour());
   surface.fill(PROGRAM_LIST_RECT, display_colour());
-  if (shows_entry_line()) paint_entry_line(surface, entry_line.cursor_shown);
+  paint_upper_line(surface);
 }
 
 void paint_periodic(TSurface& surface) { draw_gif_resource(surface, "periodic_gif", 0, 0, false, false); }
@@ -130,6 +139,7 @@ void paint_plot(TSurface& surface) {
   draw_picture(surface,
                skinned_name(surface_plot ? "plot_calculator_3d_gif" : "plot_calculator_function_gif"), 0, 0);
   paint_tabs(surface);
+  paint_indicator(surface, PART_PLOT_LEDS);
   paint_indicator(surface, PART_TRACE_LEDS);
 }
 
@@ -154,6 +164,7 @@ constexpr void (*screen_painters[])(TSurface& surface) = {paint_base,         pa
 void paint_screen(TSurface& surface) {
   refresh_title();
   if (state.calcMode >= BASE_MODE && state.calcMode <= LIST_MODE) screen_painters[state.calcMode](surface);
+  if (state.alpha_active) paint_alpha_overlay(surface);
 }
 
 }  // namespace zephyl

@@ -24,8 +24,8 @@ TEST(text_resources, end_each_line_in_carriage_return_and_line_feed) {
   for (int i = 0; i < text_resource_count; ++i) {
     const std::string_view text(text_resources[i].bytes, text_resources[i].size);
     for (std::size_t at = 0; at < text.size(); ++at) {
-      if (text[at] == '\n') EXPECT_TRUE(at > 0 && text[at - 1] == '\r') << text_resources[i].name << " at " << at;
-      if (text[at] == '\r') EXPECT_TRUE(at + 1 < text.size() && text[at + 1] == '\n') << text_resources[i].name;
+      const bool feed = text[at] == '\n', after_return = at > 0 && text[at - 1] == '\r';
+      EXPECT_EQ(feed, after_return) << text_resources[i].name << " at " << at;
     }
     EXPECT_EQ(std::strlen(text_resources[i].bytes), text.size()) << text_resources[i].name;
   }
