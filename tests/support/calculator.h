@@ -28,6 +28,9 @@ class TTestPlatform : public TPlatform {
   std::deque<std::string> file_answers;
   int clicks = 0;
   std::string title;
+  // The data folder. At first it is none, so that no test leaves files to another; a test that wants files takes a
+  // TTestFolder (file_faults.h) and sets its path.
+  std::string folder = "/dev/null/data";
   // Milliseconds that pass with each look at the clock.
   std::uint32_t ticks_per_look = 0;
 
@@ -50,7 +53,7 @@ class TTestPlatform : public TPlatform {
   bool choose_file(const TFileQuestion& question, std::string& path) override;
   void play_click() override { ++clicks; }
   void show_help() override {}
-  const char* data_folder() override { return "."; }
+  const char* data_folder() override { return folder.c_str(); }
 };
 
 // Every test has a calculator as it is after its start: COMP_MODE, radians, ST_REAL, Float.
