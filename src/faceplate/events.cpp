@@ -13,6 +13,7 @@
 #include "faceplate/screens.h"
 #include "faceplate/title.h"
 #include "numerics/random.h"
+#include "persistence/settings.h"
 #include "platform/platform.h"
 #include "plot/plot_variables.h"
 #include "stats/stats.h"
@@ -38,6 +39,7 @@ void on_start() {
   clear_faults();
   check_operation_array();
   seed_random(0.0);
+  load_settings();
   clear_calculator(true);
   check_function_arguments();
   state.init_done = true;
@@ -46,7 +48,10 @@ void on_start() {
   platform().invalidate(false);
 }
 
-void on_stop() { forget_key_feedback(); }
+void on_stop() {
+  forget_key_feedback();
+  save_settings();
+}
 
 void on_pen_down(int x, int y) {
   state.swallow_up = false;

@@ -26,7 +26,6 @@ constexpr TLaterRow later_keys[] = {
     {45, MEANING_PLAIN, "plots"},
     {46, MEANING_PLAIN, "the screens of the fourth tab"},
     {47, MEANING_PLAIN, "the menu"},
-    {48, MEANING_PLAIN, "Setup"},
     {49, MEANING_PLAIN, "programs"},
 };
 

@@ -2,6 +2,7 @@
 
 #include "engine/calculator.h"
 #include "engine/state.h"
+#include "faceplate/dialogs/setup.h"
 #include "faceplate/title.h"
 #include "platform/platform.h"
 
@@ -30,6 +31,7 @@ void set_mode(int mode, bool) {
 
 void press_tab(int tab) {
   if (tab == TAB_COMP) set_mode(COMP_MODE, true);
+  if (tab == TAB_SETUP) show_setup();
 }
 
 }  // namespace zephyl

@@ -25,7 +25,8 @@ class TSilentPlatform : public TPlatform {
   bool choose_file(const TFileQuestion&, std::string&) override { return false; }
   void play_click() override {}
   void show_help() override {}
-  const char* data_folder() override { return "."; }
+  // None: nothing is read or kept.
+  const char* data_folder() override { return "/dev/null"; }
 };
 
 }  // namespace zephyl
