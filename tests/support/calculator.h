@@ -28,7 +28,6 @@ class TTestPlatform : public TPlatform {
   std::deque<std::function<void(TDialog&)>> dialog_answers;
   std::deque<std::string> file_answers;
   int clicks = 0;
-  std::string folder = "/dev/null";  // of the data: one that no file can lie in
   std::string title;
   // Milliseconds that pass with each look at the clock.
   std::uint32_t ticks_per_look = 0;
