@@ -39,13 +39,25 @@ bool set_plot_view(double xMin, double yMin, double xMax, double yMax) {
 }
 
 void set_plot_defaults() {
-  const int type_3d = plot_variables.plotType3D;
+  const TPlotVariables before = plot_variables;
   plot_variables = {};
-  plot_variables.plotType3D = type_3d;
+  plot_variables.plotType3D = before.plotType3D;
+  plot_variables.zoom_lock_x = before.zoom_lock_x;
+  plot_variables.zoom_lock_y = before.zoom_lock_y;
   plot_variables.t = plot_variables.v = one_turn();
   hooks.redraw_part(PART_TRACE_LEDS);
   hooks.redraw_title();
   hooks.plot_changed();
+}
+
+void set_plot_type(int plot_type) {
+  plot_variables.plotType = plot_type;
+  plot_variables.plotCursor = active_plot_cursor();
+}
+
+int active_plot_cursor() {
+  const bool rotates_flat = plot_variables.plotCursor == CURSOR_ROTATE && plot_variables.plotType != PLOT_3D;
+  return rotates_flat ? static_cast<int>(CURSOR_TRACE) : plot_variables.plotCursor;
 }
 
 void reset_plot_variables() { plot_variables = {}; }
@@ -56,6 +68,7 @@ void redraw_plot() { hooks.plot_changed(); }
 
 // The type decides which keys the front has.
 void redraw_type() {
+  set_plot_type(plot_variables.plotType);
   hooks.plot_changed();
   hooks.redraw_title();
   platform().invalidate(false);
