@@ -148,7 +148,7 @@ TEST_F(keys_base, ac_and_the_clear_dialog) {
 
 TEST_F(keys_base, evaluates) {
   tap_keys({11, 13, EVALUATE_KEY});
-  EXPECT_STREQ(errors.error_text, "Syntax Error");
+  EXPECT_STREQ(errors.error_text, "Invalid Syntax");
   tap_key(AC_KEY);
   tap_keys({11, 18, EVALUATE_KEY});
   EXPECT_STREQ(state.result_text, "10d");
