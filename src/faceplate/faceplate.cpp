@@ -9,6 +9,7 @@
 #include "faceplate/hit_test.h"
 #include "faceplate/indicators.h"
 #include "faceplate/modes.h"
+#include "faceplate/picture_writer.h"
 #include "faceplate/resources.h"
 #include "faceplate/result_line_view.h"
 #include "faceplate/title.h"
@@ -28,7 +29,7 @@ void draw_image(TSurface& surface, const char* name, int x, int y) {
 }
 
 void show_plot_picture(const TSurface& plot) {
-  if (state.calcMode != PLOT_MODE) return;
+  if (state.calcMode != PLOT_MODE || state.alpha_active) return;
   screen_surface().blit(PLOT_LEFT, PLOT_TOP, PLOT_WIDTH, PLOT_HEIGHT, plot, 0, 0);
   platform().present(true);
 }
@@ -43,6 +44,10 @@ void register_faceplate_hooks() {
   hooks.set_mode = set_mode;
   hooks.tap_kind = tap_kind;
   show_stats_list = show_stats_rows;
+  hooks.write_picture = write_picture;
+  hooks.read_picture = [](TSurface& picture, const std::uint8_t* bytes, std::size_t size) {
+    draw_gif_pairs(picture, bytes, size);
+  };
   hooks.bitmap = load_bitmap;
   hooks.draw_image = draw_image;
   hooks.show_plot = show_plot_picture;

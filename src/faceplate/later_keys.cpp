@@ -19,7 +19,6 @@ constexpr TLaterRow later_keys[] = {
     {COMP_MODE, 9, 9, MEANING_BLUE, "Select Conversion"},
     {COMP_MODE, 25, 25, MEANING_BLUE, "Select Function"},
     {COMP_MODE, 25, 25, MEANING_ORANGE, "Select Variable, system variables"},
-    {COMP_MODE, 26, 26, MEANING_BLUE, "Plot Functions"},
     {COMP_MODE, 49, 49, MEANING_PLAIN, "programs"},
     {STATS_MODE, 24, 24, MEANING_BLUE, "Select Plot"},
     {STATS_MODE, 49, 49, MEANING_PLAIN, "programs"},
@@ -28,10 +27,6 @@ constexpr TLaterRow later_keys[] = {
     {PROGRAM_EDIT_MODE, 2, 17, MEANING_BLUE, "the program editor"},
     {PERIODIC_MODE, 1, 1, MEANING_PLAIN, "Element Data Table"},
     {PERIODIC_MODE, 2, 110, MEANING_PLAIN, "Element Information"},
-    {PLOT_MODE, 1, 1, MEANING_PLAIN, "Plot Setup"},
-    {PLOT_MODE, 2, 2, MEANING_PLAIN, "Plot Functions"},
-    {PLOT_MODE, 3, 4, MEANING_PLAIN, "zoom"},
-    {PLOT_MODE, 7, 11, MEANING_PLAIN, "moves of the view"},
     {MATRIX_MODE, 6, 6, MEANING_PLAIN, "Select Function"},
     {LIST_MODE, 6, 6, MEANING_PLAIN, "Select Function"},
 };

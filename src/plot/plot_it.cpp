@@ -5,6 +5,7 @@
 #include "engine/backup.h"
 #include "engine/evaluator.h"
 #include "engine/hooks.h"
+#include "engine/memory.h"
 #include "engine/state.h"
 #include "platform/platform.h"
 #include "plot/custom_function.h"
@@ -99,9 +100,24 @@ void refresh_plot() {
   if (plots_wait()) plot_it();
 }
 
+// Takes its place in front of the owners of other items.
+void (*clear_other_item)(int item) = nullptr;
+
+void clear_plot_item(int item) {
+  if (item == CLEAR_PLOT_FUNCTIONS) request_plot();
+  clear_other_item(item);
+}
+
+void register_clearing() {
+  if (clear_other_item) return;
+  clear_other_item = hooks.clear_item;
+  hooks.clear_item = clear_plot_item;
+}
+
 }  // namespace
 
 void register_plot() {
+  register_clearing();
   hooks.plot_changed = request_plot;
   hooks.request_plot_redraw = refresh_plot;
   register_backup_of<&plot_variables>();
@@ -112,6 +128,7 @@ void register_plot() {
 }
 
 void reset_plot() {
+  forget_pen();
   reset_plot_slots();
   reset_plot_screen();
   plot_point_count = 0;

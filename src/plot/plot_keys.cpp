@@ -8,6 +8,7 @@
 #include "plot/plot.h"
 #include "plot/plot_screen.h"
 #include "plot/plot_slots.h"
+#include "plot/zoom_locks.h"
 
 namespace zephyl {
 
@@ -22,8 +23,8 @@ void resize(double& min, double& max, double factor) {
 
 void zoom(double factor) {
   TPlotVariables view = plot_variables;
-  if (!view.zoom_lock_x) resize(view.xMin, view.xMax, factor);
-  if (!view.zoom_lock_y) resize(view.yMin, view.yMax, factor);
+  if (!zoom_locks.x) resize(view.xMin, view.xMax, factor);
+  if (!zoom_locks.y) resize(view.yMin, view.yMax, factor);
   set_plot_view(view.xMin, view.yMin, view.xMax, view.yMax);
 }
 
@@ -35,16 +36,6 @@ void pan(double x_part, double y_part) {
 }
 
 constexpr double PAN_PART = 0.25;
-
-void toggle(int& lock) {
-  lock = !lock;
-  hooks.redraw_part(PART_PLOT_LEDS);
-}
-
-void scale_z(double factor) {
-  plot_variables.zScale *= factor;
-  hooks.plot_changed();
-}
 
 }  // namespace
 
@@ -61,16 +52,6 @@ void cursor_home() {
   const double half_x = (view.xMax - view.xMin) / 2.0, half_y = (view.yMax - view.yMin) / 2.0;
   set_plot_view(-half_x, -half_y, half_x, half_y);
 }
-
-void toggle_zoom_lock_x() { toggle(plot_variables.zoom_lock_x); }
-void toggle_zoom_lock_y() { toggle(plot_variables.zoom_lock_y); }
-
-void scale_z_up() {
-  constexpr double limit = 1e100;
-  if (plot_variables.zScale <= limit) scale_z(2.0);
-}
-
-void scale_z_down() { scale_z(0.5); }
 
 void set_plot_cursor(int cursor) {
   plot_variables.plotCursor = cursor;

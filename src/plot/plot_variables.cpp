@@ -39,11 +39,9 @@ bool set_plot_view(double xMin, double yMin, double xMax, double yMax) {
 }
 
 void set_plot_defaults() {
-  const TPlotVariables before = plot_variables;
+  const int type_3d = plot_variables.plotType3D;
   plot_variables = {};
-  plot_variables.plotType3D = before.plotType3D;
-  plot_variables.zoom_lock_x = before.zoom_lock_x;
-  plot_variables.zoom_lock_y = before.zoom_lock_y;
+  plot_variables.plotType3D = type_3d;
   plot_variables.t = plot_variables.v = one_turn();
   hooks.redraw_part(PART_TRACE_LEDS);
   hooks.redraw_title();

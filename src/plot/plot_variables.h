@@ -30,8 +30,6 @@ struct TPlotVariables {
   double zScale = 1.0;
   double rotation_x = 0.0;  // of a 3D plot
   double rotation_y = 0.0;
-  int zoom_lock_x = 0;  // zooms leave the axis alone
-  int zoom_lock_y = 0;
 };
 extern TPlotVariables plot_variables;
 
@@ -39,8 +37,7 @@ extern TPlotVariables plot_variables;
 // nothing changes and nothing is reported. Returns whether it took them.
 bool set_plot_view(double xMin, double yMin, double xMax, double yMax);
 
-// The values of the Defaults button; the ranges are one turn in the current angle mode. plotType3D and the zoom locks
-// stay.
+// The values of the Defaults button; the ranges are one turn in the current angle mode. plotType3D stays.
 void set_plot_defaults();
 
 // Sets plotType; a plot without depth has no Rotate cursor, which becomes Trace.
