@@ -385,7 +385,8 @@ TEST_F(alpha, indicators_under_the_overlay_wait) {
   start(ALPHA_STRING);
   const std::vector<TColour> before = picture();
   state.blue_shift = state.hyp_shift = true;
-  for (int part = PART_AC_AND_ARROWS; part <= PART_TRACE_LEDS; ++part) redraw_part(static_cast<TScreenPart>(part));
+  for (int part = PART_AC_AND_ARROWS; part <= PART_TRACE_LEDS; ++part)
+    redraw_part(static_cast<TScreenPart>(part));
   EXPECT_EQ(picture(), before);
   alpha_entry.shift = true;
   redraw_part(PART_ALPHA_SHIFT);
