@@ -8,6 +8,7 @@
 #include "engine/faults.h"
 #include "engine/operation_table.h"
 #include "engine/state.h"
+#include "faceplate/dialogs/remembered.h"
 #include "faceplate/display.h"
 #include "faceplate/entry_line_view.h"
 #include "faceplate/key_feedback.h"
@@ -39,6 +40,7 @@ void reset_all() {
   reset_plot();
   reset_drawing();
   reset_tvm_state();
+  remembered = {};
   forget_key_feedback();
 }
 

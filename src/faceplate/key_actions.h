@@ -18,8 +18,8 @@ int move_left(int key);
 int move_right(int key);
 
 int evaluate(int key);
-// Evaluates and, if a result was shown, hands it to the statistics, the matrix or the list: of the screen that
-// shows, from COMP_MODE of that which the fourth tab leads to.
+// Evaluates and, if a result was shown, hands it to the statistics, the matrix or the list: of the screen
+// that shows, from COMP_MODE of that which the fourth tab leads to.
 int evaluate_and_enter(int key);
 int all_clear(int key);
 int scroll_left(int key);
