@@ -30,8 +30,9 @@ class TNumbers {
   double next() {
     word_ = word_ * 6364136223846793005u + 1442695040888963407u;
     char text[40];
-    std::snprintf(text, sizeof text, "%s%d.%013llde%d", word_ & 1 ? "-" : "", 1 + static_cast<int>((word_ >> 8) % 9),
-                  static_cast<long long>((word_ >> 16) % 10000000000000u), static_cast<int>((word_ >> 50) % 200) - 100);
+    std::snprintf(
+        text, sizeof text, "%s%d.%013llde%d", word_ & 1 ? "-" : "", 1 + static_cast<int>((word_ >> 8) % 9),
+        static_cast<long long>((word_ >> 16) % 10000000000000u), static_cast<int>((word_ >> 50) % 200) - 100);
     return std::strtod(text, nullptr);
   }
 
@@ -41,7 +42,8 @@ class TNumbers {
 
 void fill_expression(TExpression& expression, int seed) {
   expression.count = 1 + seed % EXPRESSION_LIMIT;
-  for (int i = 0; i < expression.count; ++i) expression.tokens[i] = static_cast<TToken>((seed * 131 + i * 17) % 32001);
+  for (int i = 0; i < expression.count; ++i)
+    expression.tokens[i] = static_cast<TToken>((seed * 131 + i * 17) % 32001);
 }
 
 void fill_numbers(TNumbers& numbers) {
@@ -150,7 +152,8 @@ std::string state_text() {
   append_state_records(text);
   save_items = kept;
   const TSurface& picture = drawing_bitmap();
-  for (int i = 0; i < picture.width() * picture.height(); ++i) text += std::to_string(picture.pixels()[i]) + " ";
+  for (int i = 0; i < picture.width() * picture.height(); ++i)
+    text += std::to_string(picture.pixels()[i]) + " ";
   return text;
 }
 
