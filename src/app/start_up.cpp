@@ -15,6 +15,7 @@
 #include "persistence/state_file.h"
 #include "persistence/units.h"
 #include "plot/drawing.h"
+#include "plot/plot.h"
 #include "plot/plot_variables.h"
 #include "stats/stats.h"
 #include "tools/cash_flows.h"
@@ -50,6 +51,7 @@ void register_families() {
   register_stats();
   register_plot_variables();
   register_drawing();
+  register_plot();
   register_tvm_variables();
   register_tvm_operations();
   register_cash_flow_operations();

@@ -3,6 +3,7 @@
 #include "engine/hooks.h"
 #include "engine/state.h"
 #include "faceplate/display.h"
+#include "faceplate/dialogs/stats_list.h"
 #include "faceplate/entry_line_view.h"
 #include "faceplate/gif.h"
 #include "faceplate/gif.h"
@@ -15,6 +16,7 @@
 #include "faceplate/title.h"
 #include "platform/platform.h"
 #include "plot/plot.h"
+#include "stats/stats.h"
 
 namespace zephyl {
 
@@ -28,7 +30,7 @@ void draw_image(TSurface& surface, const char* name, int x, int y) {
 }
 
 void show_plot_picture(const TSurface& plot) {
-  if (state.calcMode != PLOT_MODE) return;
+  if (state.calcMode != PLOT_MODE || state.alpha_active) return;
   screen_surface().blit(PLOT_LEFT, PLOT_TOP, PLOT_WIDTH, PLOT_HEIGHT, plot, 0, 0);
   platform().present(true);
 }
@@ -49,6 +51,7 @@ void register_faceplate_hooks() {
   hooks.bitmap = load_bitmap;
   hooks.draw_image = draw_image;
   hooks.show_plot = show_plot_picture;
+  show_stats_list = show_stats_rows;
   hooks.character_glyph = [](unsigned char character) { return &character_glyph(character); };
 }
 

@@ -37,12 +37,6 @@ void pan_up();
 void pan_down();
 // The origin in the middle, the view's size as it is.
 void cursor_home();
-// The lamps: an axis that zooms leave alone.
-void toggle_zoom_lock_x();
-void toggle_zoom_lock_y();
-// zScale by 2, unless it is above 1e100 already, and by 0.5.
-void scale_z_up();
-void scale_z_down();
 // TPlotCursor; its lamps and the title follow.
 void set_plot_cursor(int cursor);
 void open_plot_setup();
@@ -58,9 +52,8 @@ void enter_plot_function();
 bool plot_pen_down(int x, int y);
 void plot_pen_move(int x, int y);
 void plot_pen_up(int x, int y);
-
-// --- The window's title: "Function (trace)". Reports an unknown type or cursor.
-void plot_title(char* out, int size);
+// A drag that is under way has no effect any more.
+void forget_pen();
 
 void reset_plot();
 // Fills in the hooks of the plot.

@@ -13,8 +13,6 @@ namespace zephyl {
 
 namespace {
 
-constexpr TMeshPoint UNDEFINED_POINT = {undefined_value, undefined_value, undefined_value, {}};
-
 // 0.02 of the range gives 51 samples.
 void limit_step(TPlotRange& range) {
   const double width = range.max - range.min;
@@ -103,30 +101,19 @@ void start_points(TMesh& mesh, int rows, int columns) {
   for (int row = 0; row < rows; ++row) std::fill(mesh.points[row], mesh.points[row] + columns, TMeshPoint{});
 }
 
-// What was not reached when the plot was cancelled.
-void give_up(TMesh& mesh, int k, int row, int column) {
-  const int first = k < 2 ? 0 : row;
-  for (int i = first; i < mesh.rows; ++i)
-    std::fill(mesh.points[i] + (i == row && k == 2 ? column : 0), mesh.points[i] + mesh.columns, UNDEFINED_POINT);
-}
-
-// One slot over the whole mesh. False if it was cancelled.
-bool sample_slot(TMesh& mesh, int first_slot, int k, const std::function<void(int row)>& row_done) {
+// One slot over the whole mesh.
+void sample_slot(TMesh& mesh, int first_slot, int k, const std::function<void(int row)>& row_done) {
   const TSamples u = mesh_samples(plot_variables.t), v = mesh_samples(plot_variables.v);
   const TFold fold = current_fold();
   for (int row = 0; row < mesh.rows; ++row) {
     for (int column = 0; column < mesh.columns; ++column) {
       const double w = custom_function(PLOT_3D, u[row], v[column], first_slot + k, PHASE_SAMPLE);
-      if (plot_cancelled) {
-        give_up(mesh, k, row, column);
-        return false;
-      }
+      if (plot_cancelled) return;
       fold_in(mesh.points[row][column], k, w, fold);
       grow(samples_are_quick());
     }
     if (k == 2) row_done(row);
   }
-  return true;
 }
 
 }  // namespace

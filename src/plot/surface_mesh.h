@@ -27,8 +27,8 @@ struct TMesh {
 // Forces the steps of both parameters, and writes them back, into the limits of a mesh, and zScale into those of a plot.
 void limit_surface_variables();
 
-// Fills the mesh of the surface whose first slot is `slot`. row_done: called when a row has all its coordinates. A
-// cancel leaves the rest of the points undefined.
+// Fills the mesh of the surface whose first slot is `slot`. row_done: called when a row has all its coordinates, which
+// after a cancel the rest of the rows don't get.
 void sample_surface(TMesh& mesh, int slot, const std::function<void(int row)>& row_done);
 
 // The meshes of the last full plot, by surface; one that isn't in use has no rows.
