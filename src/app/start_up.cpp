@@ -19,6 +19,7 @@
 #include "plot/plot_variables.h"
 #include "stats/stats.h"
 #include "tools/cash_flows.h"
+#include "tools/molecular_mass.h"
 #include "tools/tvm_solver.h"
 #include "tools/tvm_state.h"
 
@@ -55,6 +56,7 @@ void register_families() {
   register_tvm_variables();
   register_tvm_operations();
   register_cash_flow_operations();
+  register_molecular_mass();
   register_units();
   register_state_operations();
   register_faceplate_hooks();

@@ -2,10 +2,9 @@
 
 #include "engine/hooks.h"
 #include "engine/state.h"
-#include "faceplate/display.h"
 #include "faceplate/dialogs/stats_list.h"
+#include "faceplate/display.h"
 #include "faceplate/entry_line_view.h"
-#include "faceplate/gif.h"
 #include "faceplate/gif.h"
 #include "faceplate/hit_test.h"
 #include "faceplate/indicators.h"
@@ -44,6 +43,7 @@ void register_faceplate_hooks() {
   hooks.redraw_title = refresh_title;
   hooks.set_mode = set_mode;
   hooks.tap_kind = tap_kind;
+  show_stats_list = show_stats_rows;
   hooks.write_picture = write_picture;
   hooks.read_picture = [](TSurface& picture, const std::uint8_t* bytes, std::size_t size) {
     draw_gif_pairs(picture, bytes, size);
@@ -51,7 +51,6 @@ void register_faceplate_hooks() {
   hooks.bitmap = load_bitmap;
   hooks.draw_image = draw_image;
   hooks.show_plot = show_plot_picture;
-  show_stats_list = show_stats_rows;
   hooks.character_glyph = [](unsigned char character) { return &character_glyph(character); };
 }
 
