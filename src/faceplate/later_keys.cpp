@@ -1,40 +1,41 @@
 #include "faceplate/later_keys.h"
 
+#include "engine/state.h"
+
 namespace zephyl {
 
 namespace {
 
 struct TLaterRow {
-  int key;
+  int mode;
+  int first, last;  // keys
   TKeyMeaning meaning;
   const char* waits_for;
 };
 
 constexpr TLaterRow later_keys[] = {
-    {8, MEANING_BLUE, "Select Constant"},
-    {9, MEANING_BLUE, "Select Conversion"},
-    {10, MEANING_PLAIN, "Select Variable, recall"},
-    {10, MEANING_BLUE, "Select Variable, store"},
-    {14, MEANING_BLUE, "Select Test"},
-    {20, MEANING_BLUE, "Select Expression"},
-    {24, MEANING_ORANGE, "alpha entry of string text"},
-    {25, MEANING_BLUE, "Select Function"},
-    {25, MEANING_ORANGE, "Select Variable, system variables"},
-    {26, MEANING_BLUE, "Plot Functions"},
-    {27, MEANING_ORANGE, "Select Items to Clear"},
-    {44, MEANING_PLAIN, "program edit"},
-    {45, MEANING_PLAIN, "plots"},
-    {46, MEANING_PLAIN, "the screens of the fourth tab"},
-    {47, MEANING_PLAIN, "the menu"},
-    {48, MEANING_PLAIN, "Setup"},
-    {49, MEANING_PLAIN, "programs"},
+    {BASE_MODE, 49, 49, MEANING_PLAIN, "programs"},
+    {COMP_MODE, 8, 8, MEANING_BLUE, "Select Constant"},
+    {COMP_MODE, 9, 9, MEANING_BLUE, "Select Conversion"},
+    {COMP_MODE, 25, 25, MEANING_BLUE, "Select Function"},
+    {COMP_MODE, 25, 25, MEANING_ORANGE, "Select Variable, system variables"},
+    {COMP_MODE, 49, 49, MEANING_PLAIN, "programs"},
+    {STATS_MODE, 24, 24, MEANING_BLUE, "Select Plot"},
+    {STATS_MODE, 49, 49, MEANING_PLAIN, "programs"},
+    {PROGRAM_EDIT_MODE, 0, 0, MEANING_PLAIN, "programs"},
+    {PROGRAM_EDIT_MODE, 2, 17, MEANING_PLAIN, "the program editor"},
+    {PROGRAM_EDIT_MODE, 2, 17, MEANING_BLUE, "the program editor"},
+    {PERIODIC_MODE, 1, 1, MEANING_PLAIN, "Element Data Table"},
+    {PERIODIC_MODE, 2, 110, MEANING_PLAIN, "Element Information"},
+    {MATRIX_MODE, 6, 6, MEANING_PLAIN, "Select Function"},
+    {LIST_MODE, 6, 6, MEANING_PLAIN, "Select Function"},
 };
 
 }  // namespace
 
-bool is_later_key(int key, TKeyMeaning meaning) {
+bool is_later_key(int mode, int key, TKeyMeaning meaning) {
   for (const TLaterRow& row : later_keys)
-    if (row.key == key && row.meaning == meaning) return true;
+    if (row.mode == mode && key >= row.first && key <= row.last && row.meaning == meaning) return true;
   return false;
 }
 

@@ -1,7 +1,6 @@
 #include "platform/dialog.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <utility>
 
 namespace zephyl {
@@ -26,9 +25,32 @@ TControl control_of(TControlKind kind, std::string label) {
 
 TControl rows_control(TControlKind kind, std::string label, std::vector<std::string> rows, int selected) {
   TControl control = control_of(kind, std::move(label));
-  control.selected = rows.empty() ? -1 : std::clamp(selected, 0, static_cast<int>(rows.size()) - 1);
-  control.rows = std::move(rows);
+  set_rows(control, std::move(rows), selected);
   return control;
+}
+
+bool begins_character(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; }
+
+// The first `limit` characters of UTF-8; all of them for 0.
+std::string limited(const std::string& text, int limit) {
+  if (limit <= 0) return text;
+  int characters = 0;
+  for (std::size_t i = 0; i < text.size(); ++i)
+    if (begins_character(text[i]) && ++characters > limit) return text.substr(0, i);
+  return text;
+}
+
+bool is_number(const std::string& text) {
+  return !text.empty() && text.size() < 7 && text.find_first_not_of("0123456789") == std::string::npos;
+}
+
+bool is_named(const TControl& control, const std::string& name) {
+  return !control.label.empty() && (control.label == name || control.label == name + ":");
+}
+
+// Of two controls of one name the user means the one that can be worked.
+int rank(const TDialog& dialog, int control) {
+  return (dialog[control].kind != CONTROL_LABEL ? 2 : 0) + (can_be_used(dialog, control) ? 1 : 0);
 }
 
 int button_of_role(const TDialog& dialog, TButtonRole role) {
@@ -54,14 +76,22 @@ void TDialog::close(int result) {
   result_ = result;
 }
 
+// The procedure may itself act on the dialog; what it said about its own event stands through that.
 void TDialog::tell(TDialogEventKind kind, int control) {
-  keep_open_ = false;
+  if (closed_) return;
+  const bool outer_keep_open = std::exchange(keep_open_, false);
   if (procedure) procedure(*this, {kind, control});
-  if (closed_ || kind != CONTROL_ACTIVATED) return;
-  if ((*this)[control].kind != CONTROL_BUTTON) return;
-  const TButtonRole role = (*this)[control].role;
-  if (role == BUTTON_CANCEL) close(DIALOG_CANCELLED);
-  if (role == BUTTON_DEFAULT && !keep_open_) close(0);
+  if (!closed_ && kind == CONTROL_ACTIVATED && control >= 0 && control < count()) after_activation(control);
+  keep_open_ = outer_keep_open;
+}
+
+void TDialog::after_activation(int control) {
+  const TControl& activated = (*this)[control];
+  const bool pressed = activated.kind == CONTROL_BUTTON;
+  if (pressed && activated.role == BUTTON_CANCEL) return close(DIALOG_CANCELLED);
+  if (keep_open_) return;
+  if (pressed && activated.role == BUTTON_DEFAULT) close(0);
+  if (activated.kind == CONTROL_LIST) accept_dialog(*this);
 }
 
 TControl label_control(std::string text) { return control_of(CONTROL_LABEL, std::move(text)); }
@@ -137,6 +167,16 @@ void add_ok_cancel(TDialog& dialog) {
   dialog.add(std::move(cancel));
 }
 
+void set_rows(TControl& control, std::vector<std::string> rows, int selected) {
+  control.selected = rows.empty() ? -1 : std::clamp(selected, 0, static_cast<int>(rows.size()) - 1);
+  control.rows = std::move(rows);
+}
+
+std::string selected_text(const TControl& control) {
+  const bool inside = control.selected >= 0 && control.selected < static_cast<int>(control.rows.size());
+  return inside ? control.rows[static_cast<std::size_t>(control.selected)] : "";
+}
+
 bool choose_row(TDialog& dialog, int control, int row) {
   if (!can_be_used(dialog, control) || !has_rows(dialog[control])) return false;
   if (row < 0 || row >= static_cast<int>(dialog[control].rows.size())) return false;
@@ -147,8 +187,7 @@ bool choose_row(TDialog& dialog, int control, int row) {
 
 bool set_text(TDialog& dialog, int control, const std::string& text) {
   if (!can_be_used(dialog, control) || dialog[control].kind != CONTROL_EDIT) return false;
-  TControl& edit = dialog[control];
-  edit.text = edit.text_limit > 0 ? text.substr(0, static_cast<std::size_t>(edit.text_limit)) : text;
+  dialog[control].text = limited(text, dialog[control].text_limit);
   dialog.tell(CONTROL_CHANGED, control);
   return true;
 }
@@ -177,6 +216,13 @@ bool press_button(TDialog& dialog, int control) {
   return true;
 }
 
+bool activate_row(TDialog& dialog, int control) {
+  if (!can_be_used(dialog, control) || dialog[control].selected < 0) return false;
+  if (dialog[control].kind != CONTROL_LIST && dialog[control].kind != CONTROL_TABLE) return false;
+  dialog.tell(CONTROL_ACTIVATED, control);
+  return true;
+}
+
 void cancel_dialog(TDialog& dialog) {
   if (dialog.closed()) return;
   const int button = button_of_role(dialog, BUTTON_CANCEL);
@@ -185,12 +231,13 @@ void cancel_dialog(TDialog& dialog) {
 
 int find_control(const TDialog& dialog, const std::string& name) {
   if (name.size() > 1 && name[0] == '#') {
-    const int index = std::atoi(name.c_str() + 1);
-    return index >= 0 && index < dialog.count() ? index : -1;
+    const std::string digits = name.substr(1);
+    return is_number(digits) && std::stoi(digits) < dialog.count() ? std::stoi(digits) : -1;
   }
+  int best = -1;
   for (int i = 0; i < dialog.count(); ++i)
-    if (!dialog[i].label.empty() && (dialog[i].label == name || dialog[i].label == name + ":")) return i;
-  return -1;
+    if (is_named(dialog[i], name) && (best < 0 || rank(dialog, i) > rank(dialog, best))) best = i;
+  return best;
 }
 
 bool accept_dialog(TDialog& dialog) { return press_button(dialog, button_of_role(dialog, BUTTON_DEFAULT)); }

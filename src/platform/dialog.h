@@ -49,7 +49,7 @@ struct TControl {
   int group = 0;                   // of radio
   TButtonRole role = BUTTON_PLAIN;  // of button
   std::vector<TSurface> picture;   // of picture: none or one
-  int text_limit = 0;              // of edit: the most characters, 0 any number
+  int text_limit = 0;              // of edit: the most characters (of UTF-8), 0 any number
   int lines = 1;                   // height of text, edit, list and table, in lines
   bool beside = false;             // stands to the right of the control before it, not below
   bool enabled = true;
@@ -91,9 +91,10 @@ class TDialog {
 
   // What a renderer calls, after it has put the user's change into the control. A pressed button of the role
   // BUTTON_CANCEL closes the dialog if the procedure leaves it open; one of the role BUTTON_DEFAULT likewise, with
-  // result 0, unless `keep_open` was called.
+  // result 0, unless `keep_open` was called. The row of a list that was double-clicked presses the default button
+  // under the same condition. A closed dialog is told nothing more.
   void tell(TDialogEventKind kind, int control = -1);
-  // Of the procedure: the default button that was pressed doesn't close (a field could not be read).
+  // Of the procedure: what was pressed doesn't close the dialog (a field could not be read).
   void keep_open() { keep_open_ = true; }
 
  private:
@@ -101,6 +102,8 @@ class TDialog {
   bool closed_ = false;
   bool keep_open_ = false;
   int result_ = DIALOG_CANCELLED;
+
+  void after_activation(int control);
 
  public:
   std::string title;
@@ -110,7 +113,7 @@ class TDialog {
   int focus = -1;                  // the control that has the keyboard at first; -1 the first that can
 };
 
-// Controls ready made.
+// Controls ready made. One of rows opens on row `selected`, or on the row nearest to it that there is.
 TControl label_control(std::string text);
 TControl text_control(std::string label, std::string text, int lines = 1);
 TControl edit_control(std::string label, std::string text, int limit = 0);
@@ -125,6 +128,11 @@ TControl picture_control(std::string label, TSurface picture);
 // "OK", the default, and "Cancel" beside it.
 void add_ok_cancel(TDialog& dialog);
 
+// Other rows for a combo, list or table; for procedures.
+void set_rows(TControl& control, std::vector<std::string> rows, int selected = 0);
+// The selected row, "" if none is.
+std::string selected_text(const TControl& control);
+
 // The user's acts, for renderers, scripts and tests: each puts the value into the control and tells the procedure.
 // False if the control can't do it: of another kind, disabled, hidden, a row that isn't there.
 bool choose_row(TDialog& dialog, int control, int row);
@@ -133,9 +141,12 @@ bool set_value(TDialog& dialog, int control, int value);
 // A radio button can only be set; its fellows of the group are cleared.
 bool set_checked(TDialog& dialog, int control, bool on);
 bool press_button(TDialog& dialog, int control);
+// A double click on the selected row of a list or table.
+bool activate_row(TDialog& dialog, int control);
 // Presses the cancel button, or where there is none closes the dialog.
 void cancel_dialog(TDialog& dialog);
-// The index of the control that a script or a test names: its label, with or without the last colon, or "#N". -1 if none.
+// The index of the control that a script or a test names: its label, with or without the last colon, or "#N". Among
+// namesakes the first that can be used; a mere label comes last. -1 if there is none.
 int find_control(const TDialog& dialog, const std::string& name);
 // Presses the default button; false if there is none.
 bool accept_dialog(TDialog& dialog);

@@ -107,8 +107,8 @@ TEST(script_commands, all_of_the_language_are_there) {
 }
 
 TEST(script_commands, only_the_folder_comes_before_the_start) {
-  EXPECT_TRUE(find_command("folder")->before_start);
-  EXPECT_FALSE(find_command("error")->before_start);
+  EXPECT_TRUE(find_command("folder")->when & BEFORE_START);
+  EXPECT_FALSE(find_command("error")->when & BEFORE_START);
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
-// A calculator for tests, without a window: a platform that keeps what it is told, and a fixture that starts afresh.
+// A calculator for tests, without a window: a platform that keeps what it is told, and a fixture that starts
+// afresh.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -23,10 +24,11 @@ class TTestPlatform : public TPlatform {
   std::deque<TPoint> pen_downs;       // waiting in the queue
   bool cancel_waiting = false;
   bool paint_requested = false;
-  std::vector<std::string> dialogs;   // "ID TITLE" of those that opened
+  std::vector<std::string> dialogs;  // "ID TITLE" of those that opened
   std::deque<std::function<void(TDialog&)>> dialog_answers;
   std::deque<std::string> file_answers;
   int clicks = 0;
+  std::string folder = "/dev/null";  // of the data: one that no file can lie in
   std::string title;
   // The data folder. At first it is none, so that no test leaves files to another; a test that wants files takes a
   // TTestFolder (file_faults.h) and sets its path.
@@ -46,7 +48,8 @@ class TTestPlatform : public TPlatform {
   void set_title(const char* text) override { title = text; }
   void set_wait_cursor(bool) override {}
   void show_message(const char* text, const char* title_word) override;
-  bool ask_question(const char*, const char*) override { return answer; }
+  std::vector<std::string> questions;  // "TITLE | TEXT"
+  bool ask_question(const char* text, const char* title_word) override;
   // The oldest of dialog_answers plays the user; where there is none the dialog is cancelled.
   void run_dialog(TDialog& dialog) override;
   // The oldest of file_answers; "" or none: Cancel.
@@ -75,6 +78,8 @@ class calculator : public ::testing::Test {
   std::string codes() const;
   // The oldest message box not asked for yet, "TITLE | TEXT"; "none".
   std::string message();
+  // Starts again, with the data in that folder.
+  void restart(const std::string& folder);
 
   TTestPlatform platform_;
 };

@@ -1,5 +1,6 @@
 #include "platform/script/arguments.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
@@ -60,6 +61,16 @@ bool read_utf8(const std::string& text, std::size_t& at, std::vector<std::uint16
   return true;
 }
 
+// Reads up to the closing quote, and moves behind it.
+bool read_quoted(const std::string& text, std::size_t& at, std::string& name) {
+  for (at = 1; at < text.size() && text[at] != '"'; ++at) {
+    const bool escape =
+        text[at] == '\\' && at + 1 < text.size() && (text[at + 1] == '"' || text[at + 1] == '\\');
+    name += text[escape ? ++at : at];
+  }
+  return at++ < text.size();
+}
+
 }  // namespace
 
 std::string trimmed(const std::string& text) {
@@ -97,6 +108,30 @@ bool read_point(const std::string& text, int& x, int& y) {
   x = static_cast<int>(numbers[0]);
   y = static_cast<int>(numbers[1]);
   return true;
+}
+
+bool read_name(const std::string& text, std::string& name, std::string& rest) {
+  name.clear();
+  if (text.empty()) return false;
+  std::size_t at = std::min(text.find_first_of(" \t"), text.size());
+  if (text[0] != '"')
+    name = text.substr(0, at);
+  else if (!read_quoted(text, at, name) || (at < text.size() && !is_blank(text[at])))
+    return false;
+  rest = trimmed(text.substr(at));
+  return true;
+}
+
+std::string with_line_ends(const std::string& text) {
+  std::string result;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char next = text[i] == '\\' && i + 1 < text.size() ? text[i + 1] : '\0';
+    if (next == 'n' || next == '\\')
+      ++i, result += next == 'n' ? '\n' : '\\';
+    else
+      result += text[i];
+  }
+  return result;
 }
 
 bool read_characters(const std::string& text, std::vector<std::uint16_t>& characters) {

@@ -45,15 +45,15 @@ bool obey_eval(TScript& script, const std::string& text) {
     return true;
   }
   evaluate_expression(false);
-  script.answer(result_line_text());
+  if (!script.broken_off()) script.answer(result_line_text());
   return true;
 }
 
 constexpr TCommand COMMANDS[] = {
-    {"enter", "enter TEXT", obey_enter},
-    {"insert", "insert TEXT", obey_insert},
-    {"tokens", "tokens N N ..., each from 0 to 65535", obey_tokens},
-    {"eval", "eval TEXT", obey_eval},
+    {"enter", "enter TEXT", obey_enter, NOT_IN_DIALOG},
+    {"insert", "insert TEXT", obey_insert, NOT_IN_DIALOG},
+    {"tokens", "tokens N N ..., each from 0 to 65535", obey_tokens, NOT_IN_DIALOG},
+    {"eval", "eval TEXT", obey_eval, NOT_IN_DIALOG},
 };
 
 }  // namespace

@@ -24,6 +24,7 @@ void dispatch_all(TScript& script) {
 
 void pen_down(TScript& script, int x, int y) {
   dispatch_all(script);
+  if (script.broken_off()) return;
   script.platform.pen_down(x, y);
   script.platform.paint_if_requested();
 }
@@ -42,7 +43,7 @@ void tap_at(TScript& script, int x, int y) {
 void loop_round(TScript& script) {
   dispatch_all(script);
   script.platform.paint_if_requested();
-  on_idle();
+  if (!script.broken_off()) on_idle();
 }
 
 bool obey_folder(TScript& script, const std::string& text) {
@@ -106,6 +107,7 @@ bool obey_char(TScript& script, const std::string& text) {
   if (text.empty() || !read_characters(text, characters)) return false;
   dispatch_all(script);
   for (const std::uint16_t character : characters) {
+    if (script.broken_off()) break;
     on_char(character);
     script.platform.paint_if_requested();
   }
@@ -131,7 +133,7 @@ bool obey_arrow(TScript& script, const std::string& text) {
 bool obey_idle(TScript& script, const std::string& text) {
   std::int64_t rounds = 1;
   if (!text.empty() && !read_integer(text, 0, MOST_ROUNDS, rounds)) return false;
-  while (rounds-- > 0) loop_round(script);
+  while (rounds-- > 0 && !script.broken_off()) loop_round(script);
   return true;
 }
 
@@ -147,15 +149,15 @@ bool obey_run(TScript& script, const std::string& text) {
   std::int64_t rounds = DEFAULT_RUN_ROUNDS;
   if (!text.empty() && !read_integer(text, 0, MOST_ROUNDS, rounds)) return false;
   dispatch_all(script);
-  while (!standstill() && rounds-- > 0) loop_round(script);
-  script.answer(standstill() ? standstill() : "running");
+  while (!script.broken_off() && !standstill() && rounds-- > 0) loop_round(script);
+  if (!script.broken_off()) script.answer(standstill() ? standstill() : "running");
   return true;
 }
 
 bool obey_advance(TScript& script, const std::string& text) {
   std::int64_t milliseconds = 0;
   if (!read_integer(text, 0, INT64_MAX / 2, milliseconds)) return false;
-  script.platform.elapsed += static_cast<std::uint64_t>(milliseconds);
+  script.platform.advance(static_cast<std::uint64_t>(milliseconds));
   return true;
 }
 
@@ -177,18 +179,18 @@ bool obey_quit(TScript& script, const std::string&) {
 }
 
 constexpr TCommand COMMANDS[] = {
-    {"folder", "folder PATH", obey_folder, true},
-    {"tap", "tap X Y", obey_tap},
-    {"down", "down X Y", obey_down},
-    {"move", "move X Y", obey_move},
-    {"up", "up X Y", obey_up},
-    {"key", "key N", obey_key},
-    {"char", "char TEXT, with \\r \\b \\e \\s \\\\", obey_char},
-    {"arrow", "arrow right|left|delete|up|down|home", obey_arrow},
-    {"idle", "idle [N]", obey_idle},
-    {"run", "run [N]", obey_run},
+    {"folder", "folder PATH", obey_folder, BEFORE_START},
+    {"tap", "tap X Y", obey_tap, NOT_IN_DIALOG},
+    {"down", "down X Y", obey_down, NOT_IN_DIALOG},
+    {"move", "move X Y", obey_move, NOT_IN_DIALOG},
+    {"up", "up X Y", obey_up, NOT_IN_DIALOG},
+    {"key", "key N", obey_key, NOT_IN_DIALOG},
+    {"char", "char TEXT, with \\r \\b \\e \\s \\\\", obey_char, NOT_IN_DIALOG},
+    {"arrow", "arrow right|left|delete|up|down|home", obey_arrow, NOT_IN_DIALOG},
+    {"idle", "idle [N]", obey_idle, NOT_IN_DIALOG},
+    {"run", "run [N]", obey_run, NOT_IN_DIALOG, "dialog"},
     {"advance", "advance MS", obey_advance},
-    {"post", "post tap X Y, post cancel", obey_post},
+    {"post", "post tap X Y, post cancel", obey_post, NOT_IN_DIALOG},
     {"quit", "quit", obey_quit},
 };
 

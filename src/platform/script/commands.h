@@ -7,14 +7,21 @@ namespace zephyl {
 
 class TScript;
 
+// When a command may come; a sum. Without any: with the calculator started, whether a dialog is open or not.
+enum TCommandTime {
+  BEFORE_START = 1,  // the calculator need not have been started
+  NOT_IN_DIALOG = 2  // not while a dialog keeps the calculator's window from being used
+};
+
 struct TCommand {
   const char* name;
   // How the command reads, told to whoever writes it differently.
   const char* usage;
   // Obeys it; `text` is what stands behind the name, without blanks at its ends. False if that can't be read.
   bool (*obey)(TScript& script, const std::string& text);
-  // The calculator need not have been started.
-  bool before_start = false;
+  int when = 0;
+  // What is printed if a dialog opens while it is obeyed; null for nothing.
+  const char* dialog_answer = nullptr;
 };
 
 struct TCommandGroup {

@@ -8,6 +8,8 @@
 
 namespace zephyl {
 
+struct TCommand;
+
 // Where commands come from and answers go to.
 class TScriptChannel {
  public:
@@ -21,10 +23,11 @@ class TScriptChannel {
 
 class TScript {
  public:
-  TScript(TScriptChannel& channel, TScriptPlatform& platform) : platform(platform), channel_(channel) {}
+  TScript(TScriptChannel& channel, TScriptPlatform& platform);
 
   // Starts the calculator before the first command that needs it, obeys until `quit` or the end of the input,
-  // and stops it. The platform must be set and the families registered. Returns the exit status.
+  // and stops it. What is open then is cancelled. The platform must be set and the families registered.
+  // Returns the exit status.
   int run();
 
   // For the commands:
@@ -33,16 +36,26 @@ class TScript {
   void refuse(const std::string& reason);
   void quit() { quitting_ = true; }
   bool started() const { return started_; }
+  // While the command was obeyed a dialog opened, and others were obeyed in it: the command is over, what it
+  // still had to do is dropped.
+  bool broken_off() const { return broken_off_; }
 
   TScriptPlatform& platform;
 
  private:
   void start();
+  // Reads and obeys the next command; false if there is none.
+  bool obey_next();
   void obey(const std::string& line);
+  void obey(const TCommand& command, const std::string& text);
+  // Commands are obeyed in the middle of the one that opened the dialog.
+  void work_dialog(const TDialog& dialog);
 
   TScriptChannel& channel_;
   bool started_ = false;
   bool quitting_ = false;
+  bool broken_off_ = false;
+  const TCommand* command_ = nullptr;  // the last one that was begun
   int status_ = 0;
 };
 

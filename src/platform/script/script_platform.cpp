@@ -103,7 +103,26 @@ bool TScriptPlatform::ask_question(const char*, const char*) {
 
 void TScriptPlatform::run_dialog(TDialog& dialog) {
   dialog.tell(DIALOG_OPENED);
+  if (dialog.closed()) return;
+  dialogs.push_back({&dialog, elapsed});
+  if (work_dialog) work_dialog(dialog);
   cancel_dialog(dialog);
+  dialogs.pop_back();
+}
+
+// A tick may close the dialog, and open another.
+void TScriptPlatform::advance(std::uint64_t milliseconds) {
+  const std::uint64_t end = elapsed + milliseconds;
+  const std::size_t depth = dialogs.size();
+  while (front_dialog() && dialogs.size() == depth) {
+    TOpenDialog& front = dialogs.back();
+    const std::uint32_t interval = front.dialog->closed() ? 0 : front.dialog->tick_interval;
+    if (interval == 0) front.ticked = end;
+    if (interval == 0 || front.ticked + interval > end) break;
+    elapsed = front.ticked = std::max(front.ticked + interval, elapsed);
+    front.dialog->tell(DIALOG_TICK);
+  }
+  elapsed = std::max(end, elapsed);
 }
 
 bool TScriptPlatform::choose_file(const TFileQuestion&, std::string& path) {

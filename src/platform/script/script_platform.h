@@ -4,7 +4,9 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <string>
+#include <vector>
 
 #include "platform/platform.h"
 
@@ -15,6 +17,12 @@ enum TQueuedKind { QUEUED_PEN_DOWN, QUEUED_PEN_UP, QUEUED_CANCEL };
 struct TQueuedEvent {
   TQueuedKind kind = QUEUED_CANCEL;
   TPoint at;
+};
+
+// A dialog that waits, and how far its ticks have come.
+struct TOpenDialog {
+  TDialog* dialog = nullptr;
+  std::uint64_t ticked = 0;  // `elapsed` at the last tick, or when it last had none
 };
 
 class TScriptPlatform : public TPlatform {
@@ -36,6 +44,15 @@ class TScriptPlatform : public TPlatform {
   int sounds = 0;
 
   bool pen_is_down = false;
+
+  // Those that are open, each opened by the one before it.
+  std::vector<TOpenDialog> dialogs;
+  // Lets the user work the dialog, until it is closed or nobody is there any more: then it is cancelled.
+  std::function<void(const TDialog& dialog)> work_dialog;
+  // The one that the user works; null if none is open.
+  TDialog* front_dialog() const { return dialogs.empty() ? nullptr : dialogs.back().dialog; }
+  // Moves the clock; the dialog in front is told of the ticks that pass.
+  void advance(std::uint64_t milliseconds);
 
   // The pen events, fed at once.
   void pen_down(int x, int y);
