@@ -23,7 +23,6 @@ namespace {
 constexpr int ADDED_CONSTANT_LIMIT = 101;  // one less than a file may hold
 constexpr int VALUE_DIGITS = 10;
 
-std::string new_name;     // between the two steps of typing a constant
 std::string other_lines;  // of the user's file, that aren't constants: kept when it is written
 
 std::string constants_path() { return data_file_path("constants", "const", true); }
@@ -124,9 +123,5 @@ void delete_constant(const char* name) {
   else
     load_units_and_constants(true);
 }
-
-void take_constant_name(const char* name) { new_name = name; }
-
-void take_constant_unit(const char* unit) { add_constant(new_name.c_str(), unit); }
 
 }  // namespace zephyl

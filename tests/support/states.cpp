@@ -17,6 +17,7 @@
 #include "plot/drawing.h"
 #include "plot/plot_slots.h"
 #include "plot/plot_variables.h"
+#include "plot/zoom_locks.h"
 #include "stats/stats.h"
 #include "tools/tvm_state.h"
 
@@ -119,6 +120,7 @@ void fill_plot(TNumbers& numbers) {
   plot_variables.zScale = numbers.next();
   plot_variables.rotation_x = numbers.next();
   plot_variables.rotation_y = numbers.next();
+  zoom_locks.x = zoom_locks.y = true;
   for (int type = 0; type < PLOT_TYPE_COUNT; ++type) trace_functions.slot[type] = type + 1;
 }
 
@@ -165,6 +167,7 @@ void empty_state() {
   reset_tvm_state();
   reset_drawing();
   clear_calculator(false);
+  zoom_locks = {};
   matrix_view = {};
   list_view = {};
   save_items = {};
