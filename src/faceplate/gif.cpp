@@ -324,12 +324,16 @@ TGifResult with_message(TGifResult result) {
 
 int brightened(int channel, int shift) { return std::clamp(channel + shift, 0, 255); }
 
+// Half of what the brightness differs from the neutral one. The settings may hold any number: far out every colour is
+// black or white.
+int brightness_shift() { return (std::clamp(settings.brightness, -1024, 1024) - 128) >> 1; }
+
 }  // namespace
 
 TColour adjusted_colour(TColour colour) {
   if (colour == TRANSPARENT_COLOUR) return WHITE;
   if (colour == LEGEND_COLOUR) colour = settings.skin == DARK_SKIN ? WHITE : BLACK;
-  const int shift = (settings.brightness - 128) >> 1;
+  const int shift = brightness_shift();
   return rgb(brightened(red_of(colour), shift), brightened(green_of(colour), shift),
              brightened(blue_of(colour), shift));
 }
