@@ -42,9 +42,11 @@ void sort_constants() {
   std::stable_sort(constant_table.rows, constant_table.rows + constant_table.count, stands_before);
 }
 
+// A file that is there but can't be read leaves the built-in ones, and is left alone.
 void read_user_constants() {
-  constant_table.count = 0;
   TLineReader reader(constants_path());
+  if (!reader.open()) return;
+  constant_table.count = 0;
   other_lines = read_units_text(reader);
 }
 

@@ -3,6 +3,8 @@
 #include "persistence/constants.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <string>
 
@@ -105,6 +107,14 @@ TEST_F(constants, a_line_of_another_length_ends_the_file) {
   EXPECT_EQ(constant_count(), 1);
   start_with("");
   EXPECT_EQ(constant_count(), 0);
+}
+
+TEST_F(constants, a_file_that_can_not_be_read_is_left_alone) {
+  ASSERT_EQ(::unlink(file().c_str()), 0);
+  ASSERT_EQ(::mkdir(file().c_str(), 0700), 0);
+  restart(folder_.path());
+  EXPECT_EQ(constant_count(), 44);
+  EXPECT_EQ(::rmdir(file().c_str()), 0);
 }
 
 TEST_F(constants, lines_of_another_kind_are_passed_over) {

@@ -381,6 +381,17 @@ TEST_F(state_file, colours_are_written_and_not_read) {
   EXPECT_EQ(settings.decimalDigits, 9);
 }
 
+TEST_F(state_file, the_fourth_tab_leads_to_a_screen_of_its_own) {
+  load("O: 47:7");
+  EXPECT_EQ(state.dynamic_mode, LIST_MODE);
+  load("O: 47:0");
+  EXPECT_EQ(state.dynamic_mode, BASE_MODE);
+  for (const char* elsewhere : {"O: 47:1", "O: 47:5", "O: 47:57"}) {
+    load(elsewhere);
+    EXPECT_EQ(state.dynamic_mode, STATS_MODE);
+  }
+}
+
 TEST_F(state_file, money_values_come_back_and_the_undefined_one_does_not) {
   load("O: 54:3.6e2|O: 58:9.54334561e300|O: 61:1.0");
   EXPECT_EQ(tvm_value(TVM_N), 360.0);
@@ -537,6 +548,14 @@ TEST_F(state_file, a_damaged_drawing_is_told) {
   load("R: 0:1.0|G: |GIF99");
   EXPECT_EQ(message(), "Gif | Gif load error");
   EXPECT_EQ(memory_array[0].re, 1.0);
+}
+
+TEST_F(state_file, nothing_is_read_behind_a_drawing) {
+  drawing.drawing_used = true;
+  drawing_bitmap().set_pixel(0, 0, BLACK);
+  load_bytes(saved({6}) + "\r\nR: 0:1.0\r\n" + std::string(1200000, 'x') + "\r\nR: 1:1.0\r\n");
+  EXPECT_EQ(memory_array[0].re, 0.0);
+  EXPECT_EQ(memory_array[1].re, 0.0);
 }
 
 TEST_F(state_file, a_drawing_is_saved_where_its_work_file_can_not_be) {
