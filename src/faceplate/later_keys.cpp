@@ -15,8 +15,6 @@ struct TLaterRow {
 
 constexpr TLaterRow later_keys[] = {
     {BASE_MODE, 49, 49, MEANING_PLAIN, "programs"},
-    {COMP_MODE, 8, 8, MEANING_BLUE, "Select Constant"},
-    {COMP_MODE, 9, 9, MEANING_BLUE, "Select Conversion"},
     {COMP_MODE, 25, 25, MEANING_BLUE, "Select Function"},
     {COMP_MODE, 25, 25, MEANING_ORANGE, "Select Variable, system variables"},
     {COMP_MODE, 49, 49, MEANING_PLAIN, "programs"},
