@@ -14,6 +14,7 @@
 #include "numerics/special_functions.h"
 #include "plot/drawing.h"
 #include "plot/plot_variables.h"
+#include "programs/programs.h"
 #include "stats/stats.h"
 #include "tools/cash_flows.h"
 #include "tools/tvm_solver.h"
@@ -51,6 +52,7 @@ void register_families() {
   register_tvm_variables();
   register_tvm_operations();
   register_cash_flow_operations();
+  register_programs();
   register_faceplate_hooks();
 }
 

@@ -19,6 +19,7 @@
 #include "plot/drawing.h"
 #include "plot/plot_variables.h"
 #include "plot/zoom_locks.h"
+#include "programs/programs.h"
 #include "stats/stats.h"
 #include "tools/tvm_state.h"
 
@@ -27,6 +28,7 @@ namespace zephyl {
 namespace {
 
 void reset_all() {
+  reset_programs();
   reset_engine();
   list_view = {};
   matrix_view = {};
@@ -54,7 +56,10 @@ void on_start() {
   platform().invalidate(false);
 }
 
-void on_stop() { forget_key_feedback(); }
+void on_stop() {
+  if (state.calcMode == PROGRAM_EDIT_MODE) save_program();
+  forget_key_feedback();
+}
 
 void on_pen_down(int x, int y) {
   state.swallow_up = false;
@@ -84,8 +89,8 @@ void on_paint() {
   paint_screen(screen_surface());
 }
 
-// Nothing goes on by itself between two events.
-bool on_idle() { return false; }
+// All that goes on by itself between two events is a program, one statement a round.
+bool on_idle() { return program_tick(); }
 
 const TSurface& screen() { return screen_surface(); }
 
