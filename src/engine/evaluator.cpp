@@ -275,8 +275,11 @@ bool arguments_left(int frame_count) {
                      [](const TFuncFrame& frame) { return frame.count > 0; });
 }
 
-// A list without a size is no result: ERR_LIST_UNDEFINED.
-bool result_is_defined() { return registers[0].type != TYPE_LIST || list_by_number(REGISTER_NUMBER); }
+// A list or matrix without a size is no result: ERR_LIST_UNDEFINED, ERR_MATRIX_UNDEFINED.
+bool result_is_defined() {
+  if (registers[0].type == TYPE_LIST) return list_by_number(REGISTER_NUMBER);
+  return registers[0].type != TYPE_MATRIX || matrix_by_number(REGISTER_NUMBER);
+}
 
 void deliver_result() {
   const TRegister& result = registers[0];
