@@ -305,15 +305,35 @@ void deliver_result() {
 
 }  // namespace
 
-void run_compiled(const TCompiled& compiled, bool plotting) {
+namespace {
+
+int runs_under_way = 0;
+
+// From clean frames to the value in register 0.
+void run_steps(const TCompiled& compiled, bool plotting) {
   clear_literal();
   clear_frames(compiled.frame_count);
   registers[0].type = TYPE_NUMBER;
-  poll_budget = 0;  // what the user waits for looks at the clock from its first step
   const int loop_variables = loop_variable_count();
   if (!errors.error_flag) walk_steps(compiled, plotting);
   if (errors.error_flag) pop_loop_variables_to(loop_variables);
   if (arguments_left(compiled.frame_count)) report_error(ERR_SYNTAX);
+}
+
+}  // namespace
+
+bool is_evaluating() { return runs_under_way > 0; }
+
+void run_sample(const TCompiled& compiled) {
+  registers[0].value = {};
+  run_steps(compiled, true);
+}
+
+void run_compiled(const TCompiled& compiled, bool plotting) {
+  poll_budget = 0;  // what the user waits for looks at the clock from its first step
+  ++runs_under_way;
+  run_steps(compiled, plotting);
+  --runs_under_way;
   if (errors.error_flag || !result_is_defined()) return;
   deliver_result();
   if (state.at_prompt) hooks.prompt_answered();
@@ -325,6 +345,7 @@ void reset_evaluator() {
   pop_loop_variables_to(0);
   for (TRegister& reg : registers) reg = {};
   walked = nullptr;
+  runs_under_way = 0;
   forget_evaluations();
   reset_poll();
 }

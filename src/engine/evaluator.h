@@ -60,6 +60,13 @@ extern TNumericState numeric_states[STEP_LIMIT];
 // leaves all answers untouched. plotting: scalar functions stay real.
 void run_compiled(const TCompiled& compiled, bool plotting);
 
+// One of many runs of a compiled form on the side, as plots make them: the value is left in register 0, no answer
+// changes, and the clock is looked at no more often than the walk itself asks for. The first error of the run stands.
+void run_sample(const TCompiled& compiled);
+
+// True while run_compiled is at work: the poll may paint then, but nothing else may be evaluated.
+bool is_evaluating();
+
 // The walk alone; the value is left in register 0.
 void walk_steps(const TCompiled& compiled, bool plotting);
 

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <vector>
 
 #include "engine/values.h"
 
@@ -31,7 +33,9 @@ struct TRunningProgram {
 };
 
 struct TFuncFrame;
+class TSurface;
 struct TBitmap;
+class TSurface;
 
 // What a custom function's first statement declares.
 struct TFunctionHeader {
@@ -49,6 +53,15 @@ struct THooks {
   TTapKind (*tap_kind)(int x, int y) = [](int, int) { return TAP_KEY; };
   // The line glyph of a character, 17 pixels high; null: there are no glyphs.
   const TBitmap* (*character_glyph)(unsigned char character) = [](unsigned char) -> const TBitmap* { return nullptr; };
+  // A named glyph, "SMALL_XMIN". Null, with a message box, for a name that there is none of.
+  const TBitmap* (*bitmap)(const char* name) = [](const char*) -> const TBitmap* { return nullptr; };
+  // Draws the image or the coloured box of that name at a place of a surface.
+  void (*draw_image)(TSurface& surface, const char* name, int x, int y) = [](TSurface&, const char*, int, int) {};
+  // The plot's picture has changed: it goes to its place on the PLOT screen, at once.
+  void (*show_plot)(const TSurface& plot) = [](const TSurface&) {};
+  // A picture as the bytes of a GIF with 16-bit colours, and drawn from them; what can't be read is told.
+  void (*write_picture)(const TSurface& picture, std::vector<std::uint8_t>& bytes) = nullptr;
+  void (*read_picture)(TSurface& picture, const std::uint8_t* bytes, std::size_t size) = nullptr;
   // plot
   void (*plot_changed)() = [] {};         // the plot must be drawn again
   void (*request_plot_redraw)() = [] {};  // a drawing operation ran

@@ -154,6 +154,7 @@ void clear_one(int item) {
       break;
     case CLEAR_PLOT_FUNCTIONS:
       clear_function_slots(0, FIRST_PROGRAM_FUNCTION - 1);
+      clear_function_slots(FIRST_SURFACE_FUNCTION, FIRST_SURFACE_FUNCTION + SURFACE_FUNCTION_COUNT - 1);
       break;
     case CLEAR_HISTORY:
       history.count = 0;

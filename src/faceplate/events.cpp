@@ -15,8 +15,10 @@
 #include "faceplate/screens.h"
 #include "faceplate/title.h"
 #include "numerics/random.h"
+#include "persistence/constants.h"
 #include "platform/platform.h"
 #include "plot/drawing.h"
+#include "plot/plot.h"
 #include "plot/plot_variables.h"
 #include "plot/zoom_locks.h"
 #include "programs/programs.h"
@@ -35,6 +37,7 @@ void reset_all() {
   reset_stats();
   reset_plot_variables();
   zoom_locks = {};
+  reset_plot();
   reset_drawing();
   reset_tvm_state();
   forget_key_feedback();
@@ -50,6 +53,7 @@ void on_start() {
   seed_random(0.0);
   clear_calculator(true);
   check_function_arguments();
+  load_units_and_constants(false);
   state.init_done = true;
   refresh_title();
   set_plot_defaults();
@@ -64,20 +68,22 @@ void on_stop() {
 void on_pen_down(int x, int y) {
   state.swallow_up = false;
   if (!state.alpha_active) cursor_to_tap(x, y);
+  if (!state.alpha_active && plot_pen_down(x, y)) return;
   handle_faceplate_input(x, y, -1, -1);
   state.drag_in_progress = false;
 }
 
-void on_pen_move(int, int) {}
+void on_pen_move(int x, int y) { plot_pen_move(x, y); }
 
-void on_pen_up(int, int) {
-  state.drag_in_progress = false;
+void on_pen_up(int x, int y) {
   if (state.swallow_up) {
-    state.swallow_up = false;
-    return;
+    state.swallow_up = state.drag_in_progress = false;
+    return forget_pen();
   }
   if (state.plot_button > 0) state.plot_button = 0;
   release_key_feedback();
+  plot_pen_up(x, y);
+  state.drag_in_progress = false;
 }
 
 void on_char(std::uint16_t character) { handle_faceplate_input(0, 0, character, -1); }

@@ -357,4 +357,9 @@ TGifResult draw_gif_file(TSurface& surface, std::FILE* file, int x, int y, bool 
   return with_message(draw(surface, source, x, y, transparent, adjust, true));
 }
 
+TGifResult draw_gif_pairs(TSurface& surface, const std::uint8_t* bytes, std::size_t size) {
+  TByteSource source(bytes, size);
+  return with_message(draw(surface, source, 0, 0, false, false, true));
+}
+
 }  // namespace zephyl

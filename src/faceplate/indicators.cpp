@@ -89,7 +89,7 @@ void paint_run(TSurface& surface) {
 void paint_trace_leds(TSurface& surface) {
   const bool surface_plot = plot_variables.plotType == PLOT_3D;
   for (int i = 0; i < (surface_plot ? 4 : 3); ++i)
-    blit_bitmap(surface, i == shown_plot_cursor() ? "green_trace_led" : "grey_trace_led", 12 + 21 * i, 221);
+    blit_bitmap(surface, i == active_plot_cursor() ? "green_trace_led" : "grey_trace_led", 12 + 21 * i, 221);
 }
 
 // A lamp is green while its axis is locked against zooming.

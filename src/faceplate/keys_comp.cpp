@@ -14,6 +14,7 @@
 #include "faceplate/key_actions.h"
 #include "faceplate/key_maps.h"
 #include "faceplate/key_path.h"
+#include "plot/plot.h"
 #include "plot/plot_variables.h"
 
 namespace zephyl {
@@ -62,6 +63,11 @@ int plot_variable(int) {
   return recall_token(variables[plot_variables.plotType]);
 }
 
+int enter_function(int) {
+  enter_plot_function();
+  return KEY_DONE;
+}
+
 int enter_test(int) {
   const int test = choose_test();
   return test < 0 ? KEY_DONE : test;
@@ -103,7 +109,8 @@ constexpr TKeyRow rows[] = {
     {23, 23, token(23), token(173), token(123)},
     {24, 24, token(24), none, action(write_string, IDLE_ONLY)},
     {25, 25, token(25, IDLE_ONLY)},
-    {26, 26, action(evaluate_and_enter, IDLE_ONLY), none, action(plot_variable, IDLE_ONLY)},
+    {26, 26, action(evaluate_and_enter, IDLE_ONLY), action(enter_function, IDLE_ONLY),
+     action(plot_variable, IDLE_ONLY)},
     {27, 27, action(all_clear, NOT_RUNNING), action(remove_last_stats_entry, NOT_ON_ERROR),
      action(choose_items_to_clear, IDLE_ONLY)},
     {28, 41, action(enter_key_number)},

@@ -9,8 +9,7 @@
 #include "faceplate/key_maps.h"
 #include "faceplate/key_path.h"
 #include "faceplate/modes.h"
-#include "faceplate/title.h"
-#include "platform/platform.h"
+#include "plot/plot.h"
 #include "plot/plot_variables.h"
 #include "plot/zoom_locks.h"
 
@@ -19,6 +18,13 @@ namespace zephyl {
 namespace {
 
 constexpr double Z_SCALE_LIMIT = 1e100;
+
+// A key that calls a function and is done.
+template <void (*act)()>
+int call(int) {
+  act();
+  return KEY_DONE;
+}
 
 int press_plot_tab(int key) {
   press_tab(key - 12);
@@ -43,12 +49,8 @@ int scale_z(double factor) {
 int double_z_scale(int) { return plot_variables.zScale > Z_SCALE_LIMIT ? KEY_DONE : scale_z(2.0); }
 int halve_z_scale(int) { return scale_z(0.5); }
 
-// What the last cursor has drawn over the plot goes with the repaint.
 int select_cursor(int cursor) {
-  plot_variables.plotCursor = cursor;
-  redraw_part(PART_TRACE_LEDS);
-  refresh_title();
-  platform().invalidate(false);
+  set_plot_cursor(cursor);
   return KEY_DONE;
 }
 
@@ -62,17 +64,17 @@ int rotate_or_calculate(int) {
 
 constexpr TKeyRow rows[] = {
     {0, 0, none},  // the dead pixel, which the hit test reports and nobody hears
-    {1, 1, none},  // Plot Setup
-    {2, 2, none},  // Plot Functions
-    {3, 3, none},  // zoom in
-    {4, 4, none},  // zoom out
+    {1, 1, action(call<open_plot_setup>)},
+    {2, 2, action(call<open_plot_functions>)},
+    {3, 3, action(call<zoom_in>)},
+    {4, 4, action(call<zoom_out>)},
     {5, 5, action(toggle_x_lock)},
     {6, 6, action(toggle_y_lock)},
-    {7, 7, none},    // centre
-    {8, 8, none},    // left
-    {9, 9, none},    // right
-    {10, 10, none},  // up
-    {11, 11, none},  // down
+    {7, 7, action(call<cursor_home>)},
+    {8, 8, action(call<pan_left>)},
+    {9, 9, action(call<pan_right>)},
+    {10, 10, action(call<pan_up>)},
+    {11, 11, action(call<pan_down>)},
     {12, 17, action(press_plot_tab)},
     {18, 18, action(double_z_scale)},
     {19, 19, action(halve_z_scale)},

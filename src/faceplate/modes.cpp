@@ -1,10 +1,7 @@
 #include "faceplate/modes.h"
 
-#include <algorithm>
-
 #include "engine/calculator.h"
 #include "engine/errors.h"
-#include "engine/expression.h"
 #include "engine/hooks.h"
 #include "engine/state.h"
 #include "faceplate/dialogs/menu.h"
@@ -12,26 +9,18 @@
 #include "faceplate/title.h"
 #include "platform/platform.h"
 #include "plot/drawing.h"
-#include "plot/plot_variables.h"
+#include "plot/plot_slots.h"
 
 namespace zephyl {
 
 namespace {
 
-constexpr int SLOTS_OF_A_TYPE = 6;
-
 bool takes_the_fourth_tab(int mode) {
   return mode == BASE_MODE || mode == STATS_MODE || mode == MATRIX_MODE || mode == LIST_MODE;
 }
 
-bool plot_function_defined() {
-  if (plot_variables.plotType == PLOT_3D) return true;
-  const TExpression* const first = function_slots + SLOTS_OF_A_TYPE * plot_variables.plotType;
-  return std::any_of(first, first + SLOTS_OF_A_TYPE, [](const TExpression& slot) { return slot.count > 0; });
-}
-
 bool nothing_to_plot() {
-  return plot_variables.enablePlots && !plot_function_defined() && !drawing_present();
+  return plot_variables.enablePlots && !any_slot_in_use() && !drawing_present();
 }
 
 void show_plot(bool ask) {

@@ -11,6 +11,7 @@
 #include "faceplate/resources.h"
 #include "faceplate/result_line_view.h"
 #include "faceplate/title.h"
+#include "plot/plot.h"
 #include "plot/plot_variables.h"
 
 namespace zephyl {
@@ -24,7 +25,6 @@ constexpr int PROGRAM_TAB = 43;
 constexpr int PLOT_TAB = 82;
 constexpr int FOURTH_TAB = 121;
 
-constexpr TRect PLOT_RECT = {7, 6, 232, 185};
 constexpr TRect PROGRAM_LINE_RECT = {7, 6, 232, 25};
 constexpr TRect PROGRAM_LIST_RECT = {7, 36, 232, 185};
 
@@ -135,12 +135,13 @@ void paint_periodic(TSurface& surface) { draw_gif_resource(surface, "periodic_gi
 void paint_plot(TSurface& surface) {
   const bool surface_plot = plot_variables.plotType == PLOT_3D;
   draw_backdrop(surface, skinned_name("PLOT_BACKGROUND_GIF"), 0, 0);
-  surface.fill(PLOT_RECT, WHITE);
   draw_picture(surface,
                skinned_name(surface_plot ? "plot_calculator_3d_gif" : "plot_calculator_function_gif"), 0, 0);
   paint_tabs(surface);
   paint_indicator(surface, PART_PLOT_LEDS);
   paint_indicator(surface, PART_TRACE_LEDS);
+  // Last: a plot that takes long shows while it grows, on a front that is complete.
+  surface.blit(PLOT_LEFT, PLOT_TOP, PLOT_WIDTH, PLOT_HEIGHT, shown_plot(), 0, 0);
 }
 
 void paint_table(TSurface& surface, const char* background, const char* front) {

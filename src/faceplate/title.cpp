@@ -56,7 +56,7 @@ const char* plot_type_word() {
 }
 
 const char* plot_cursor_word() {
-  return word({" (trace)", " (box zoom)", " (pan)", " (rotate)"}, shown_plot_cursor(),
+  return word({" (trace)", " (box zoom)", " (pan)", " (rotate)"}, active_plot_cursor(),
               "Undefined Cursor Type");
 }
 
@@ -66,12 +66,6 @@ void plot_title(TTitle& title) {
 }
 
 }  // namespace
-
-int shown_plot_cursor() {
-  const bool plane = plot_variables.plotType != PLOT_3D;
-  return plane && plot_variables.plotCursor == CURSOR_ROTATE ? static_cast<int>(CURSOR_TRACE)
-                                                             : plot_variables.plotCursor;
-}
 
 void refresh_title() {
   if (const char* title = program_title()) return platform().set_title(title);

@@ -6,7 +6,4 @@ namespace zephyl {
 
 void refresh_title();
 
-// The plot cursor that acts: on a plane there is nothing to rotate, and that cursor acts as the trace.
-int shown_plot_cursor();
-
 }  // namespace zephyl

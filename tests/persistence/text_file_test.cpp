@@ -216,10 +216,10 @@ TEST(append_to_file, a_full_disk_leaves_what_was_there) {
 
 TEST_F(calculator, data_files_lie_beside_the_program_or_in_its_programs_folder) {
   const TTestFolder folder;
-  ASSERT_EQ(::chdir(folder.path().c_str()), 0);
-  EXPECT_EQ(data_file_path("startup", "txt", true), "./startup.txt");
+  platform_.folder = folder.path();
+  EXPECT_EQ(data_file_path("startup", "txt", true), folder.file("startup.txt"));
   EXPECT_EQ(folder.names(), "");
-  EXPECT_EQ(data_file_path("Sum of two", "prgm", false), "./programs/Sum of two.prgm");
+  EXPECT_EQ(data_file_path("Sum of two", "prgm", false), folder.file("programs/Sum of two.prgm"));
   EXPECT_EQ(folder.names(), "programs");
 }
 

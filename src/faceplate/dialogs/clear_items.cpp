@@ -41,7 +41,10 @@ bool any_function(int first, int last) {
                      [](const TExpression& slot) { return slot.count > 0; });
 }
 
-bool any_plot_function() { return any_function(0, FIRST_PROGRAM_FUNCTION - 1); }
+bool any_plot_function() {
+  return any_function(0, FIRST_PROGRAM_FUNCTION - 1) ||
+         any_function(FIRST_SURFACE_FUNCTION, FIRST_SURFACE_FUNCTION + SURFACE_FUNCTION_COUNT - 1);
+}
 bool any_program_function() { return any_function(FIRST_PROGRAM_FUNCTION, FIRST_PROGRAM_FUNCTION + 8); }
 bool any_history() { return history.count > 0; }
 bool any_drawing() { return drawing.drawing_used; }

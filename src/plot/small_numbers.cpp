@@ -1,9 +1,9 @@
-#include "faceplate/small_numbers.h"
+#include "plot/small_numbers.h"
 
 #include <cstdio>
 #include <cstring>
 
-#include "faceplate/resources.h"
+#include "engine/hooks.h"
 #include "platform/platform.h"
 
 namespace zephyl {
@@ -23,7 +23,7 @@ constexpr TSmallName small_names[] = {
 
 const TBitmap* small_glyph(char character) {
   const char* name = get_small_number_character_bitmap(character);
-  return *name ? load_bitmap(name) : nullptr;
+  return *name ? hooks.bitmap(name) : nullptr;
 }
 
 }  // namespace

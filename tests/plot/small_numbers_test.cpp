@@ -1,6 +1,6 @@
 // Numbers in the small font of the plot screens.
 
-#include "faceplate/small_numbers.h"
+#include "plot/small_numbers.h"
 
 #include <string>
 
