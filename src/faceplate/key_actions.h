@@ -32,6 +32,9 @@ int recall_variable(int key);
 int store_variable(int key);
 int choose_items_to_clear(int key);
 
+// The run key; in program edit it saves the program first.
+int run_or_stop_program(int key);
+
 // The six tabs of the screens with digit keys, from key 43 on.
 int press_calculator_tab(int key);
 
