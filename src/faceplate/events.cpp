@@ -16,6 +16,7 @@
 #include "faceplate/title.h"
 #include "numerics/random.h"
 #include "persistence/constants.h"
+#include "persistence/settings.h"
 #include "platform/platform.h"
 #include "plot/drawing.h"
 #include "plot/plot.h"
@@ -49,6 +50,7 @@ void on_start() {
   clear_faults();
   check_operation_array();
   seed_random(0.0);
+  load_settings();
   clear_calculator(true);
   check_function_arguments();
   load_units_and_constants(false);
@@ -58,7 +60,10 @@ void on_start() {
   platform().invalidate(false);
 }
 
-void on_stop() { forget_key_feedback(); }
+void on_stop() {
+  forget_key_feedback();
+  save_settings();
+}
 
 void on_pen_down(int x, int y) {
   state.swallow_up = false;
