@@ -23,3 +23,26 @@ add_custom_command(
   DEPENDS ${art_program}
   COMMENT "Drawing the pictures and glyphs")
 target_sources(zephyl_core PRIVATE ${resources_source})
+
+# The texts: every file under resources/texts/ becomes a named text of the program (engine/text_resources.h).
+set(texts_folder ${CMAKE_SOURCE_DIR}/resources/texts)
+file(GLOB_RECURSE text_files CONFIGURE_DEPENDS ${texts_folder}/*)
+set(texts_source ${CMAKE_BINARY_DIR}/generated/texts_data.cpp)
+add_custom_command(
+  OUTPUT ${texts_source}
+  COMMAND ${CMAKE_COMMAND} -D folder=${texts_folder} -D output=${texts_source} -P ${CMAKE_SOURCE_DIR}/cmake/text_table.cmake
+  DEPENDS ${text_files} ${CMAKE_SOURCE_DIR}/cmake/text_table.cmake
+  COMMENT "Gathering the texts")
+target_sources(zephyl_core PRIVATE ${texts_source})
+
+# The built-in programs, one a file, as one text (programs/built_in_programs.h).
+set(programs_folder ${CMAKE_SOURCE_DIR}/resources/programs)
+file(GLOB program_files CONFIGURE_DEPENDS ${programs_folder}/*.prgm)
+set(programs_source ${CMAKE_BINARY_DIR}/generated/built_in_programs_data.cpp)
+add_custom_command(
+  OUTPUT ${programs_source}
+  COMMAND ${CMAKE_COMMAND} -D folder=${programs_folder} -D output=${programs_source}
+          -P ${CMAKE_SOURCE_DIR}/cmake/built_in_programs.cmake
+  DEPENDS ${program_files} ${CMAKE_SOURCE_DIR}/cmake/built_in_programs.cmake
+  COMMENT "Joining the built-in programs")
+target_sources(zephyl_core PRIVATE ${programs_source})

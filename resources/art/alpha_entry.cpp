@@ -17,6 +17,7 @@ constexpr int OVERLAY_WIDTH = 235;
 constexpr int OVERLAY_HEIGHT = 175;
 constexpr int KEY_COUNT = 42;
 constexpr TColour PRINT = 0x14181C;
+constexpr TColour UNUSED = 0x2C343A;
 constexpr TColour PROMPT = 0xE6E0BC;
 constexpr TCapColours CAP = {0xF2F3F4, 0xCDD2D6, 0xFFFFFF, 0xA7AEB4, 0x0E1113, PRINT};
 constexpr TCapColours SERVICE_CAP = {0x9AA6B0, 0x76838E, 0xBAC4CC, 0x5C6872, 0x0E1113, PRINT};
@@ -56,17 +57,29 @@ TCanvas overlay() {
   return canvas;
 }
 
-// A character a key from the first on; a blank leaves its key empty. page: the word on the key that turns the
-// page.
+// Set by the line, not by the ink: all characters of a row stand on one line.
+void draw_character(TCanvas& canvas, const TBox& box, char character) {
+  const TTypeface& face = typefaces().round;
+  const TMask mask = face.letter(static_cast<unsigned char>(character));
+  canvas.stamp(mask, box.left + (box.width() - mask.width()) / 2, box.top + 12 - face.baseline(), PRINT);
+}
+
+// The place of a key that means nothing on a page.
+void draw_unused_key(TCanvas& canvas, const TBox& box) {
+  canvas.fill(grown(box, 1), PANEL);
+  draw_rounded(canvas, box, 3, UNUSED);
+}
+
+// A character a key from the first on; a key without one, or with a blank, is unused. page: the word on the key that
+// turns the page.
 TCanvas characters(const std::string& text, const char* page) {
   TCanvas canvas(OVERLAY_WIDTH, OVERLAY_HEIGHT);
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == ' ') continue;
-    // Set by the line, not by the ink: all characters of a row stand on one line.
-    const TTypeface& face = typefaces().round;
-    const TMask mask = face.letter(static_cast<unsigned char>(text[i]));
-    const TBox box = alpha_key(static_cast<int>(i));
-    canvas.stamp(mask, box.left + (box.width() - mask.width()) / 2, box.top + 12 - face.baseline(), PRINT);
+  for (int key = 0; key < KEY_SHIFT; ++key) {
+    const char character = key < static_cast<int>(text.size()) ? text[static_cast<std::size_t>(key)] : ' ';
+    if (character == ' ')
+      draw_unused_key(canvas, alpha_key(key));
+    else
+      draw_character(canvas, alpha_key(key), character);
   }
   canvas.stamp_centred(typefaces().narrow.label(page), alpha_key(KEY_SYMBOLS), PRINT);
   return canvas;

@@ -34,16 +34,17 @@ TBox plot_key(int row, bool is_3d) {
       return is_3d ? TBox{98, 238, 149, 252} : TBox{98, 247, 149, 261};
     case 6:
       return is_3d ? TBox{98, 255, 149, 269} : TBox{98, 266, 149, 280};
+    // The pad's caps are smaller than its keys, which touch one another and aren't even.
     case 7:
-      return {180, 242, 210, 258};
+      return {182, 242, 209, 258};
     case 8:
-      return {156, 242, 179, 259};
+      return {159, 241, 178, 259};
     case 9:
-      return {211, 238, 232, 263};
+      return {213, 241, 232, 259};
     case 10:
-      return {186, 212, 205, 235};
+      return {186, 214, 205, 235};
     case 11:
-      return {186, 263, 205, 286};
+      return {186, 265, 205, 286};
     case 18:
       return {97, 271, 122, 286};
     default:

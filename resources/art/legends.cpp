@@ -17,8 +17,11 @@ constexpr int LEGEND_RISE = 10;
 constexpr int WIDEST_GAP = 8;
 constexpr int NARROWEST_GAP = 5;
 
-// Columns that a label leaves free on its cap.
-constexpr int SIDE_ROOM = 4;
+// Columns that a label leaves free on its cap, the more the wider its face.
+struct TCapFace {
+  const TTypeface& face;
+  int side_room;
+};
 
 bool is_large(const TBox& box) { return box.height() > 20; }
 
@@ -57,9 +60,9 @@ const TMask lamp_on{".###.", "#####", "#####", "#####", ".###."};
 
 TMask cap_label(const char* text, int width) {
   const TTypefaces& faces = typefaces();
-  for (const TTypeface* face : {&faces.label, &faces.narrow, &faces.legend, &faces.tiny}) {
-    const TMask mask = face->label(text);
-    if (mask.width() <= width - SIDE_ROOM) return mask;
+  for (const TCapFace& row : {TCapFace{faces.label, 6}, {faces.narrow, 3}, {faces.legend, 4}, {faces.tiny, 4}}) {
+    const TMask mask = row.face.label(text);
+    if (mask.width() <= width - row.side_room) return mask;
   }
   throw std::runtime_error(std::string("no room on the key for ") + text);
 }

@@ -12,6 +12,7 @@ namespace art {
 const std::map<char32_t, TSign>& legend_signs();
 const std::map<char32_t, TSign>& label_signs();
 // For the glyphs of the lines, capitals of 10 rows.
+const std::map<char32_t, TSign>& digit_signs();
 const std::map<char32_t, TSign>& line_signs();
 
 // Triangles that point left, 5 by 9 on the keys; and the signs of the run key.

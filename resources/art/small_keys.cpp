@@ -32,6 +32,17 @@ TCanvas printed(const char* text) {
   return canvas;
 }
 
+// The number in the bold face and its unit in the light one, on one line.
+TCanvas bits_key(const char* number) {
+  const TTypeface &bold = typefaces().label, &light = typefaces().legend;
+  const TMask count = bold.text(number), unit = light.text("bit");
+  const int x = (SMALL_KEY_WIDTH - count.width() - 2 - unit.width()) / 2, baseline = 12;
+  TCanvas canvas = blank();
+  canvas.stamp(count, x, baseline - bold.baseline(), LEGEND);
+  canvas.stamp(unit, x + count.width() + 2, baseline - light.baseline(), LEGEND);
+  return canvas;
+}
+
 // An arrow head in the middle.
 TCanvas arrow(bool to_left, TColour colour) {
   TCanvas canvas = blank();
@@ -81,9 +92,6 @@ struct TPrintedKey {
 
 constexpr TPrintedKey printed_keys[] = {
     {"SMALL_DOT_BUTTON_GIF", "."},
-    {"8_BIT_GIF", "8 bit"},
-    {"16_BIT_GIF", "16 bit"},
-    {"32_BIT_GIF", "32 bit"},
     {"BIN_GIF", "BIN"},
     {"OCT_GIF", "OCT"},
     {"DEC_GIF", "DEC"},
@@ -104,6 +112,8 @@ constexpr TPrintedKey printed_keys[] = {
 void add_small_keys(TProduct& product) {
   for (int number = 0; number < SKIN_COUNT; ++number) add_skinned_keys(product, number);
   for (const TPrintedKey& key : printed_keys) product.add_image(key.name, printed(key.text));
+  for (const char* number : {"8", "16", "32"})
+    product.add_image(std::string(number) + "_BIT_GIF", bits_key(number));
   product.add_image("HYP_BUTTON_GIF", hyp_key(false));
   product.add_image("WHITE_DOT_BUTTON_GIF", hyp_key(true));
   product.add_image("LEFT_ARROW_BUTTON_GIF", arrow(true, LEGEND));

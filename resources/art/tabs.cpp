@@ -19,7 +19,8 @@ constexpr TColour LIT_TEXT = 0x1B2024;
 
 // A tab with its upper corners round, on the panel.
 void draw_tab(TCanvas& canvas, int left, const char* word, bool lit) {
-  const TBox box = box_at(left, 0, TAB_WIDTH, TAB_LINE_HEIGHT - 1);
+  // Its first row is bare, so that nothing of it looks out above the text entry.
+  const TBox box = box_at(left, 1, TAB_WIDTH, TAB_LINE_HEIGHT - 2);
   draw_rounded(canvas, box, 3, lit ? LIT_EDGE : TAB_EDGE);
   draw_rounded(canvas, {box.left, box.top + 1, box.right, box.bottom}, 3, lit ? LIT : TAB);
   canvas.stamp_centred(typefaces().legend.label(word), {box.left, box.top, box.right, box.bottom},

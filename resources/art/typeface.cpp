@@ -58,9 +58,9 @@ TMask TTypeface::text(const std::string& utf8) const {
 
 TMask TTypeface::label(const std::string& utf8) const {
   const TMask line = text(utf8);
-  const int capital_top = letter(U'E').ink_top();
-  return line.part(0, std::min(capital_top, line.ink_top()), line.width(),
-                   std::max(baseline() + 1, line.ink_bottom()));
+  const int capital_top = letter(U'E').ink_top(), capital_bottom = baseline() + 1;
+  const int beyond = std::max({0, capital_top - line.ink_top(), line.ink_bottom() - capital_bottom});
+  return line.part(0, capital_top - beyond, line.width(), capital_bottom + beyond);
 }
 
 }  // namespace art

@@ -16,6 +16,7 @@ TTypefaces::TTypefaces()
   legend.add_signs(legend_signs());
   label.add_signs(label_signs());
   narrow.add_signs(label_signs());
+  digit.add_signs(digit_signs());
   line.add_signs(line_signs());
 }
 

@@ -12,9 +12,15 @@
 #include "numerics/numerics.h"
 #include "numerics/operators/operators.h"
 #include "numerics/special_functions.h"
+#include "persistence/state_file.h"
+#include "persistence/units.h"
+#include "plot/drawing.h"
+#include "plot/plot.h"
 #include "plot/plot_variables.h"
+#include "programs/programs.h"
 #include "stats/stats.h"
 #include "tools/cash_flows.h"
+#include "tools/molecular_mass.h"
 #include "tools/tvm_solver.h"
 #include "tools/tvm_state.h"
 
@@ -46,9 +52,15 @@ void register_families() {
   register_collections();
   register_stats();
   register_plot_variables();
+  register_drawing();
+  register_plot();
   register_tvm_variables();
   register_tvm_operations();
   register_cash_flow_operations();
+  register_molecular_mass();
+  register_units();
+  register_state_operations();
+  register_programs();
   register_faceplate_hooks();
 }
 

@@ -19,9 +19,6 @@ namespace {
 
 const TCompiled* walked = nullptr;
 
-// Set while a numeric operator re-runs its body: from then on errors in the body are errors.
-bool iterating[STEP_LIMIT] = {};
-
 // What a whole walk depends on.
 struct TWalk {
   const TCompiled& compiled;
@@ -99,7 +96,7 @@ void abandon_operator(TNumericState& numeric) {
 // True if the error ends the walk. In a dry pass it is forgiven, or stands while the walk goes on; the step's
 // value is 0.
 bool error_ends_walk(const TStep& step, const TOutcome& outcome) {
-  if (step.numeric_frame < 0 || iterating[step.numeric_frame] || outcome.stop_on_error) return true;
+  if (step.numeric_frame < 0 || numeric_states[step.numeric_frame].iterating || outcome.stop_on_error) return true;
   set_number_result(step.result, {});
   if (stands_in_dry_pass(errors.error_code)) return false;
   clear_error();
@@ -194,12 +191,12 @@ bool run_rounds(const TWalk& walk, const TStep& step) {
 // round.
 int next_step(const TStep& step, const TOutcome& outcome, int index) {
   if (step.arg_kind != KIND_NUMERIC) return index + 1;
-  iterating[step.frame] = outcome.repeat;
+  numeric_states[step.frame].iterating = outcome.repeat;
   return outcome.repeat ? step.body_start : index + 1;
 }
 
 void walk_general(const TWalk& walk) {
-  std::fill(iterating, iterating + walk.compiled.frame_count, false);
+  for (int i = 0; i < walk.compiled.frame_count; ++i) numeric_states[i].iterating = false;
   int index = 0;
   while (index < walk.compiled.count) {
     const TStep& step = walk.compiled.steps[index];
@@ -278,8 +275,11 @@ bool arguments_left(int frame_count) {
                      [](const TFuncFrame& frame) { return frame.count > 0; });
 }
 
-// A list without a size is no result: ERR_LIST_UNDEFINED.
-bool result_is_defined() { return registers[0].type != TYPE_LIST || list_by_number(REGISTER_NUMBER); }
+// A list or matrix without a size is no result: ERR_LIST_UNDEFINED, ERR_MATRIX_UNDEFINED.
+bool result_is_defined() {
+  if (registers[0].type == TYPE_LIST) return list_by_number(REGISTER_NUMBER);
+  return registers[0].type != TYPE_MATRIX || matrix_by_number(REGISTER_NUMBER);
+}
 
 void deliver_result() {
   const TRegister& result = registers[0];
@@ -305,15 +305,35 @@ void deliver_result() {
 
 }  // namespace
 
-void run_compiled(const TCompiled& compiled, bool plotting) {
+namespace {
+
+int runs_under_way = 0;
+
+// From clean frames to the value in register 0.
+void run_steps(const TCompiled& compiled, bool plotting) {
   clear_literal();
   clear_frames(compiled.frame_count);
   registers[0].type = TYPE_NUMBER;
-  poll_budget = 0;  // what the user waits for looks at the clock from its first step
   const int loop_variables = loop_variable_count();
   if (!errors.error_flag) walk_steps(compiled, plotting);
   if (errors.error_flag) pop_loop_variables_to(loop_variables);
   if (arguments_left(compiled.frame_count)) report_error(ERR_SYNTAX);
+}
+
+}  // namespace
+
+bool is_evaluating() { return runs_under_way > 0; }
+
+void run_sample(const TCompiled& compiled) {
+  registers[0].value = {};
+  run_steps(compiled, true);
+}
+
+void run_compiled(const TCompiled& compiled, bool plotting) {
+  poll_budget = 0;  // what the user waits for looks at the clock from its first step
+  ++runs_under_way;
+  run_steps(compiled, plotting);
+  --runs_under_way;
   if (errors.error_flag || !result_is_defined()) return;
   deliver_result();
   if (state.at_prompt) hooks.prompt_answered();
@@ -325,6 +345,8 @@ void reset_evaluator() {
   pop_loop_variables_to(0);
   for (TRegister& reg : registers) reg = {};
   walked = nullptr;
+  runs_under_way = 0;
+  forget_evaluations();
   reset_poll();
 }
 

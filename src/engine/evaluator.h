@@ -50,6 +50,7 @@ struct TNumericState {
   double saved = 0.0;
   int variable = -1;  // memory slot
   int phase = 0;
+  bool iterating = false;  // it re-runs its body: from then on errors in the body are errors
 };
 
 extern TFuncFrame func_frames[STEP_LIMIT];
@@ -59,8 +60,22 @@ extern TNumericState numeric_states[STEP_LIMIT];
 // leaves all answers untouched. plotting: scalar functions stay real.
 void run_compiled(const TCompiled& compiled, bool plotting);
 
+// One of many runs of a compiled form on the side, as plots make them: the value is left in register 0, no answer
+// changes, and the clock is looked at no more often than the walk itself asks for. The first error of the run stands.
+void run_sample(const TCompiled& compiled);
+
+// True while run_compiled is at work: the poll may paint then, but nothing else may be evaluated.
+bool is_evaluating();
+
 // The walk alone; the value is left in register 0.
 void walk_steps(const TCompiled& compiled, bool plotting);
+
+// Puts the walk that is under way aside for a custom function, which evaluates expressions of its own, and takes it up
+// again. False, with ERR_PROGRAM_NESTING or ERR_MEMORY_LIMIT reported, where there is no place for it.
+constexpr int EVALUATION_DEPTH = 5;
+bool push_evaluation();
+void pop_evaluation();
+void forget_evaluations();
 
 // Looks into the event queue: paints what waits, and reports ERR_CANCELED for a tap on a key. True: abandon the walk.
 bool pump_messages();

@@ -15,7 +15,7 @@ bool operator==(const TExpression& a, const TExpression& b) {
 }
 
 const char* function_slot_name(int slot) {
-  // Slots 18 to 20 belong to surfaces and have no name.
+  // Slots 18 to 20 are empty places.
   static constexpr const char* names[] = {
       "f1(x)",     "f2(x)",     "f3(x)",     "f4(x)",     "f5(x)", "f6(x)", "R1(theta)", "R2(theta)",
       "R3(theta)", "R4(theta)", "R5(theta)", "R6(theta)", "X1(t)", "Y1(t)", "X2(t)",     "Y2(t)",

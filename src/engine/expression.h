@@ -33,9 +33,12 @@ extern THistory history;
 
 // Expressions that other expressions name: plot functions and f1() to f9(), by token minus
 // FIRST_FUNCTION_READ. 0 to 5 f1(x).., 6 to 11 R1(theta).., 12 to 17 X1(t), Y1(t), X2(t).., 21 to 29
-// f1()..f9().
+// f1()..f9(). Without a name: 30 to 35 of the surfaces, and 36 what a plot calculation puts together.
 constexpr int FUNCTION_SLOT_COUNT = 50;
 constexpr int FIRST_PROGRAM_FUNCTION = 21;
+constexpr int FIRST_SURFACE_FUNCTION = 30;
+constexpr int SURFACE_FUNCTION_COUNT = 6;
+constexpr int SCRATCH_FUNCTION = 36;
 extern TExpression function_slots[FUNCTION_SLOT_COUNT];
 // "f1(x)", "R2(theta)", "X1(t)", "f9()"; empty for a slot without a name.
 const char* function_slot_name(int slot);

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <vector>
 
 #include "engine/values.h"
 
@@ -31,6 +33,9 @@ struct TRunningProgram {
 };
 
 struct TFuncFrame;
+class TSurface;
+struct TBitmap;
+class TSurface;
 
 // What a custom function's first statement declares.
 struct TFunctionHeader {
@@ -46,6 +51,17 @@ struct THooks {
   void (*redraw_title)() = [] {};
   void (*set_mode)(int mode, bool ask) = nullptr;  // null: the mode is only stored
   TTapKind (*tap_kind)(int x, int y) = [](int, int) { return TAP_KEY; };
+  // The line glyph of a character, 17 pixels high; null: there are no glyphs.
+  const TBitmap* (*character_glyph)(unsigned char character) = [](unsigned char) -> const TBitmap* { return nullptr; };
+  // A named glyph, "SMALL_XMIN". Null, with a message box, for a name that there is none of.
+  const TBitmap* (*bitmap)(const char* name) = [](const char*) -> const TBitmap* { return nullptr; };
+  // Draws the image or the coloured box of that name at a place of a surface.
+  void (*draw_image)(TSurface& surface, const char* name, int x, int y) = [](TSurface&, const char*, int, int) {};
+  // The plot's picture has changed: it goes to its place on the PLOT screen, at once.
+  void (*show_plot)(const TSurface& plot) = [](const TSurface&) {};
+  // A picture as the bytes of a GIF with 16-bit colours, and drawn from them; what can't be read is told.
+  void (*write_picture)(const TSurface& picture, std::vector<std::uint8_t>& bytes) = nullptr;
+  void (*read_picture)(TSurface& picture, const std::uint8_t* bytes, std::size_t size) = nullptr;
   // plot
   void (*plot_changed)() = [] {};         // the plot must be drawn again
   void (*request_plot_redraw)() = [] {};  // a drawing operation ran
@@ -71,10 +87,17 @@ struct THooks {
   void (*run_function)(const char* name, const TFuncFrame& arguments) = [](const char*, const TFuncFrame&) {};
   // Before a matrix, list or string store changes: slot 90 to 129.
   void (*about_to_store)(int slot) = [](int) {};
-  // A list, matrix or string store (slot 90 to 129) keeps its value when the running program ends.
+  // A list, matrix or string store (slot 90 to 129) keeps its value when the running program ends. NO_SLOT stands for a
+  // value that is no named store: ERR_ARGUMENT_TYPE while a program runs.
   void (*make_global)(int slot) = [](int) {};
+  // An evaluation from the keyboard, or a plot, begins: what was read of programs before may have changed.
+  void (*evaluation_begins)() = [] {};
+  // The evaluate key at the prompt of an `in` statement, before its expression runs.
+  void (*prompt_entered)() = [] {};
   // The value that an `in` statement waits for has arrived.
   void (*prompt_answered)() = [] {};
+  // The evaluate key at the prompt of an `in f()` statement, with an expression on the line.
+  void (*function_prompt_answered)() = [] {};
   // Any owner: clears item n of TClearItem that the engine does not hold.
   void (*clear_item)(int n) = [](int) {};
 };

@@ -200,10 +200,11 @@ bool check_types(TStepRun& run, const TFuncFrame& frame, const TSignature& signa
   const bool lists_map = kind != KIND_NUMERIC && kind != KIND_CALL_WITH_ARGUMENTS &&
                          operation_array[run.step.op].family == SCALAR_FAMILY;
   TNumericState& numeric = numeric_states[run.step.frame];
-  // The value of the dry pass over a body is not used, and so not looked at.
-  const int first_checked = kind == KIND_NUMERIC && numeric.rounds == 0 && numeric.phase == 0 ? 1 : 0;
-  for (int i = first_checked; i < frame.count; ++i) {
+  const bool after_dry_pass = kind == KIND_NUMERIC && numeric.rounds == 0 && numeric.phase == 0;
+  for (int i = 0; i < frame.count; ++i) {
     const TArgument& argument = frame.arguments[i];
+    // The number that the dry pass over a body leaves is not used, and so not looked at.
+    if (i == 0 && after_dry_pass && is_number(argument)) continue;
     if (signature.types[i] == ARGUMENT_VARIABLE && argument.memory >= 0) {
       numeric.variable = argument.memory;
       continue;

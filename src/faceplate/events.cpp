@@ -2,10 +2,13 @@
 
 #include "platform/events.h"
 
+#include "collections/list_view.h"
+#include "collections/matrix_view.h"
 #include "engine/calculator.h"
 #include "engine/faults.h"
 #include "engine/operation_table.h"
 #include "engine/state.h"
+#include "faceplate/dialogs/remembered.h"
 #include "faceplate/display.h"
 #include "faceplate/entry_line_view.h"
 #include "faceplate/key_feedback.h"
@@ -13,8 +16,14 @@
 #include "faceplate/screens.h"
 #include "faceplate/title.h"
 #include "numerics/random.h"
+#include "persistence/constants.h"
+#include "persistence/settings.h"
 #include "platform/platform.h"
+#include "plot/drawing.h"
+#include "plot/plot.h"
 #include "plot/plot_variables.h"
+#include "plot/zoom_locks.h"
+#include "programs/programs.h"
 #include "stats/stats.h"
 #include "tools/tvm_state.h"
 
@@ -23,10 +32,17 @@ namespace zephyl {
 namespace {
 
 void reset_all() {
+  reset_programs();
   reset_engine();
+  list_view = {};
+  matrix_view = {};
   reset_stats();
   reset_plot_variables();
+  zoom_locks = {};
+  reset_plot();
+  reset_drawing();
   reset_tvm_state();
+  remembered = {};
   forget_key_feedback();
 }
 
@@ -38,33 +54,41 @@ void on_start() {
   clear_faults();
   check_operation_array();
   seed_random(0.0);
+  load_settings();
   clear_calculator(true);
   check_function_arguments();
+  load_units_and_constants(false);
   state.init_done = true;
   refresh_title();
   set_plot_defaults();
   platform().invalidate(false);
 }
 
-void on_stop() { forget_key_feedback(); }
+void on_stop() {
+  if (state.calcMode == PROGRAM_EDIT_MODE) save_program();
+  forget_key_feedback();
+  save_settings();
+}
 
 void on_pen_down(int x, int y) {
   state.swallow_up = false;
   if (!state.alpha_active) cursor_to_tap(x, y);
+  if (!state.alpha_active && plot_pen_down(x, y)) return;
   handle_faceplate_input(x, y, -1, -1);
   state.drag_in_progress = false;
 }
 
-void on_pen_move(int, int) {}
+void on_pen_move(int x, int y) { plot_pen_move(x, y); }
 
-void on_pen_up(int, int) {
-  state.drag_in_progress = false;
+void on_pen_up(int x, int y) {
   if (state.swallow_up) {
-    state.swallow_up = false;
-    return;
+    state.swallow_up = state.drag_in_progress = false;
+    return forget_pen();
   }
   if (state.plot_button > 0) state.plot_button = 0;
   release_key_feedback();
+  plot_pen_up(x, y);
+  state.drag_in_progress = false;
 }
 
 void on_char(std::uint16_t character) { handle_faceplate_input(0, 0, character, -1); }
@@ -76,8 +100,8 @@ void on_paint() {
   paint_screen(screen_surface());
 }
 
-// Nothing goes on by itself between two events.
-bool on_idle() { return false; }
+// All that goes on by itself between two events is a program, one statement a round.
+bool on_idle() { return program_tick(); }
 
 const TSurface& screen() { return screen_surface(); }
 

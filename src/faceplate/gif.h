@@ -42,6 +42,9 @@ TGifResult draw_gif(TSurface& surface, const std::uint8_t* bytes, std::size_t si
 // can't.
 TGifResult draw_gif_file(TSurface& surface, std::FILE* file, int x, int y, bool transparent, bool adjust);
 
+// The same from bytes in memory, onto the surface's upper left corner, with the colours as they are.
+TGifResult draw_gif_pairs(TSurface& surface, const std::uint8_t* bytes, std::size_t size);
+
 // What `adjust` makes of a colour: magenta is white, green the legend colour (white in skin 1, else black),
 // and everything but magenta is moved by half of what the brightness differs from 128.
 TColour adjusted_colour(TColour colour);

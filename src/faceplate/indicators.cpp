@@ -4,18 +4,23 @@
 
 #include "engine/errors.h"
 #include "engine/state.h"
+#include "faceplate/alpha_view.h"
 #include "faceplate/display.h"
 #include "faceplate/images.h"
 #include "faceplate/key_feedback.h"
 #include "faceplate/resources.h"
+#include "faceplate/title.h"
 #include "platform/platform.h"
 #include "plot/plot_variables.h"
+#include "plot/zoom_locks.h"
+#include "programs/programs.h"
 
 namespace zephyl {
 
 namespace {
 
 constexpr int mode_bit(int mode) { return 1 << mode; }
+constexpr int ANY_MODE = ~0;
 constexpr int DIGIT_KEY_MODES = mode_bit(BASE_MODE) | mode_bit(COMP_MODE) | mode_bit(STATS_MODE);
 
 bool shown_in(int modes) {
@@ -75,7 +80,7 @@ void paint_angle(TSurface& surface) {
 }
 
 void paint_run(TSurface& surface) {
-  if (state.program_running)
+  if (program_can_be_stopped())
     draw_skinned_key(surface, "stop_button_gif", 5, 72);
   else
     draw_key(surface, "run_button_gif", 5, 72);
@@ -83,11 +88,18 @@ void paint_run(TSurface& surface) {
 
 void paint_trace_leds(TSurface& surface) {
   const bool surface_plot = plot_variables.plotType == PLOT_3D;
-  // A plane has nothing to rotate: the fourth cursor acts as the first there.
-  const bool rotates = plot_variables.plotCursor == CURSOR_ROTATE;
-  const int active = rotates && !surface_plot ? static_cast<int>(CURSOR_TRACE) : plot_variables.plotCursor;
   for (int i = 0; i < (surface_plot ? 4 : 3); ++i)
-    blit_bitmap(surface, i == active ? "green_trace_led" : "grey_trace_led", 12 + 21 * i, 221);
+    blit_bitmap(surface, i == active_plot_cursor() ? "green_trace_led" : "grey_trace_led", 12 + 21 * i, 221);
+}
+
+// A lamp is green while its axis is locked against zooming.
+void paint_plot_leds(TSurface& surface) {
+  const bool surface_plot = plot_variables.plotType == PLOT_3D;
+  const auto paint_led = [&surface](bool on, int y) {
+    draw_picture(surface, on ? "green_led_gif" : "red_led_gif", 102, y);
+  };
+  paint_led(zoom_locks.x, surface_plot ? 242 : 250);
+  paint_led(zoom_locks.y, surface_plot ? 259 : 269);
 }
 
 struct TIndicator {
@@ -104,12 +116,14 @@ constexpr TIndicator indicators[] = {
     {PART_ORANGE, mode_bit(COMP_MODE), small_key(44, 72), paint_orange},
     {PART_BLUE, DIGIT_KEY_MODES | mode_bit(PROGRAM_EDIT_MODE), {44, 72, 118, 229}, paint_blue},
     {PART_HYP, mode_bit(COMP_MODE), small_key(122, 72), paint_hyp},
+    {PART_ALPHA_SHIFT, ANY_MODE, ALPHA_SHIFT_RECT, paint_alpha_shift},
     {PART_STATS_VAR, mode_bit(STATS_MODE), small_key(83, 72), paint_stats_var},
     {PART_REGRESSION, mode_bit(STATS_MODE), small_key(161, 102), paint_regression},
     {PART_BASE_TYPE, mode_bit(BASE_MODE), small_key(83, 72), paint_base_type},
     {PART_ANGLE, mode_bit(COMP_MODE), small_key(200, 132), paint_angle},
     {PART_BASE_BITS, mode_bit(BASE_MODE), small_key(122, 72), paint_base_bits},
     {PART_RUN, DIGIT_KEY_MODES, small_key(5, 72), paint_run},
+    {PART_PLOT_LEDS, mode_bit(PLOT_MODE), {102, 242, 110, 277}, paint_plot_leds},
     {PART_TRACE_LEDS, mode_bit(PLOT_MODE), {12, 221, 77, 223}, paint_trace_leds},
 };
 
@@ -130,6 +144,8 @@ void paint_indicator(TSurface& surface, TScreenPart part) {
 }
 
 void redraw_part(TScreenPart part) {
+  // The overlay lies over all other indicators.
+  if (state.alpha_active != (part == PART_ALPHA_SHIFT)) return;
   if (part == PART_SHIFTS) {
     for (const TScreenPart shift : {PART_ORANGE, PART_BLUE, PART_HYP}) redraw_part(shift);
   } else if (const TIndicator* indicator = find_indicator(part)) {

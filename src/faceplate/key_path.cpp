@@ -3,10 +3,11 @@
 #include "engine/errors.h"
 #include "engine/expression.h"
 #include "engine/state.h"
+#include "faceplate/alpha_entry.h"
 #include "faceplate/hit_test.h"
 #include "faceplate/indicators.h"
 #include "faceplate/key_feedback.h"
-#include "faceplate/keys_comp.h"
+#include "faceplate/key_maps.h"
 #include "faceplate/modes.h"
 #include "faceplate/typed_keys.h"
 #include "platform/platform.h"
@@ -18,35 +19,15 @@ namespace {
 constexpr int FIRST_VIEW_KEY = 7;  // of PLOT_MODE
 constexpr int LAST_VIEW_KEY = 11;
 constexpr int STATS_COMMA_KEY = 19;
+constexpr int RUN_KEY = 49;
 
 void key_click() {
   if (settings.keyClick) platform().play_click();
 }
 
-// The first of the six tabs in the key table of a mode; -1 for a screen without tabs.
-int first_tab_key(int mode) {
-  switch (mode) {
-    case PROGRAM_EDIT_MODE:
-      return 18;
-    case PLOT_MODE:
-      return 12;
-    case MATRIX_MODE:
-    case LIST_MODE:
-      return 0;
-    case PERIODIC_MODE:
-      return -1;
-    default:
-      return 43;
-  }
-}
-
-// The modes whose key maps are still to come: only the ways to another mode work.
-int tabs_only_pressed(int key) {
-  const int first = first_tab_key(state.calcMode);
-  if (first >= 0 && key >= first && key < first + TAB_COUNT) press_tab(key - first);
-  if (state.calcMode == PERIODIC_MODE && key == 0) set_mode(COMP_MODE, false);
-  return KEY_DONE;
-}
+// By TCalcMode.
+constexpr const TKeyMap* key_maps[] = {&base_key_map,     &comp_key_map, &stats_key_map,  &program_key_map,
+                                       &periodic_key_map, &plot_key_map, &matrix_key_map, &list_key_map};
 
 int unknown_mode(bool& needs_repaint) {
   platform().show_message("Invalid calculator mode", "key_pressed_decoder");
@@ -64,15 +45,28 @@ bool program_takes(int key) {
   return true;
 }
 
-// Any key ends the pause of a program, but for those that work through it.
-bool ends_pause(const KeyRect& rect) {
+int do_key(bool& needs_repaint, int key) {
+  const bool known = state.calcMode >= BASE_MODE && state.calcMode <= LIST_MODE;
+  return known ? press_mapped_key(*key_maps[state.calcMode], key) : unknown_mode(needs_repaint);
+}
+
+bool has_run_key() {
+  return state.calcMode == BASE_MODE || state.calcMode == COMP_MODE || state.calcMode == STATS_MODE;
+}
+
+// Any key ends the pause of a program, but for those that work through it. The run key stops the program
+// while it still stands at its pause.
+bool ends_pause(int key, const KeyRect& rect) {
   if (!state.key_wait || rect.tap_through) return false;
   key_click();
+  bool needs_repaint = false;
+  if (key == RUN_KEY && has_run_key()) do_key(needs_repaint, key);
   state.key_wait = false;
   return true;
 }
 
 void take_token(int token) {
+  if (state.alpha_active) return append_alpha_character(token);
   if (errors.error_flag || !state.init_done) return;
   insert_token(false, static_cast<TToken>(token));
 }
@@ -88,23 +82,29 @@ void take_result(int result, bool needs_repaint) {
   if (result != KEY_CONSUMED) end_shifts(needs_repaint);
 }
 
-void press_key(int key) {
+int decode(int key, bool typed, bool& needs_repaint) {
+  if (!state.alpha_active) return key_pressed_decoder(needs_repaint, key);
+  key_click();
+  return alpha_key_pressed(key, typed);
+}
+
+void press_key(int key, bool typed) {
   bool needs_repaint = false;
-  const int result = key_pressed_decoder(needs_repaint, key);
+  const int result = decode(key, typed, needs_repaint);
   if (!program_works()) take_result(result, needs_repaint);
   if (needs_repaint) platform().invalidate(false);
 }
 
 // A comma typed in STATS_MODE would clear the statistics: only a tap does that.
-bool dropped(int key, bool tap) { return state.calcMode == STATS_MODE && !tap && key == STATS_COMMA_KEY; }
+bool dropped(int key, bool tap) {
+  return state.calcMode == STATS_MODE && !state.alpha_active && !tap && key == STATS_COMMA_KEY;
+}
 
 }  // namespace
 
 int key_pressed_decoder(bool& needs_repaint, int key) {
   key_click();
-  if (state.calcMode < BASE_MODE || state.calcMode > LIST_MODE) return unknown_mode(needs_repaint);
-  if (state.alpha_active) return KEY_DONE;  // its keys are characters, which nothing takes yet
-  return state.calcMode == COMP_MODE ? comp_key_pressed(key) : tabs_only_pressed(key);
+  return do_key(needs_repaint, key);
 }
 
 void handle_faceplate_input(int x, int y, int character, int cursor_key) {
@@ -113,8 +113,8 @@ void handle_faceplate_input(int x, int y, int character, int cursor_key) {
   const int key = key_hit_test(x, y, character, cursor_key, rect);
   if (key == NO_KEY || dropped(key, tap)) return;
   if (tap) press_key_feedback(rect.rect());
-  if (program_takes(key) || ends_pause(rect)) return;
-  press_key(key);
+  if (program_takes(key) || ends_pause(key, rect)) return;
+  press_key(key, !tap);
 }
 
 }  // namespace zephyl

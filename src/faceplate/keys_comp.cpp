@@ -1,62 +1,30 @@
-#include "faceplate/keys_comp.h"
+// The key map of COMP_MODE.
+
+#include <iterator>
 
 #include "engine/calculator.h"
-#include "engine/errors.h"
-#include "engine/expression.h"
 #include "engine/memory.h"
 #include "engine/state.h"
 #include "engine/tokens.h"
+#include "faceplate/alpha_entry.h"
+#include "faceplate/dialogs/select_expression.h"
+#include "faceplate/dialogs/select_test.h"
+#include "faceplate/dialogs/surface_variable.h"
 #include "faceplate/indicators.h"
+#include "faceplate/key_actions.h"
+#include "faceplate/key_maps.h"
 #include "faceplate/key_path.h"
-#include "faceplate/later_keys.h"
 #include "faceplate/modes.h"
-#include "faceplate/result_line_view.h"
+#include "persistence/constant_dialogs.h"
+#include "persistence/conversion_dialog.h"
+#include "plot/plot.h"
 #include "plot/plot_variables.h"
-#include "stats/stats.h"
 
 namespace zephyl {
 
 namespace {
 
-constexpr int NO_TOKEN = -1;
-
-enum : unsigned { ALWAYS = 0, NOT_RUNNING = 1, NOT_ON_ERROR = 2 };
-
-// One meaning of a key: a token, or an action that gives the key's result. Neither: the key has no such
-// meaning, and the plain one stands in.
-struct TMeaning {
-  int token = NO_TOKEN;
-  int (*act)(int key) = nullptr;
-  unsigned refused = ALWAYS;
-
-  constexpr bool defined() const { return token != NO_TOKEN || act; }
-};
-
-struct TKeyRow {
-  TMeaning plain;
-  TMeaning blue;
-  TMeaning orange;
-};
-
-constexpr TMeaning token(int code, unsigned refused = ALWAYS) { return {code, nullptr, refused}; }
-constexpr TMeaning action(int (*act)(int key), unsigned refused = ALWAYS) { return {NO_TOKEN, act, refused}; }
-constexpr TMeaning none;
-
-int toggle_orange(int) {
-  state.orange_shift = !state.orange_shift;
-  state.blue_shift = false;
-  redraw_part(PART_ORANGE);
-  redraw_part(PART_BLUE);
-  return KEY_CONSUMED;
-}
-
-int toggle_blue(int) {
-  state.blue_shift = !state.blue_shift;
-  state.orange_shift = false;
-  redraw_part(PART_ORANGE);
-  redraw_part(PART_BLUE);
-  return KEY_CONSUMED;
-}
+constexpr int SLOT_U = SLOT_T + 1;  // v behind it
 
 int toggle_hyp(int) {
   state.hyp_shift = !state.hyp_shift;
@@ -87,151 +55,89 @@ int angle_mark(int) {
   return marks[settings.angleMode];
 }
 
-int delete_at_cursor(int) {
-  delete_token();
-  return KEY_DONE;
-}
-
-int move_left(int) {
-  cursor_left(state.blue_shift);
-  return KEY_DONE;
-}
-
-int move_right(int) {
-  cursor_right(state.blue_shift);
-  return KEY_DONE;
-}
-
-int evaluate(int) {
-  evaluate_expression(false);
-  return KEY_DONE;
-}
-
-// The result goes where the fourth tab leads: to the statistics, also from COMP and BASE.
-int evaluate_and_enter(int) {
-  const bool to_statistics = state.dynamic_mode == STATS_MODE || state.dynamic_mode == BASE_MODE;
-  if (evaluate_expression(false) && to_statistics) enter_answer_into_stats();
-  return KEY_DONE;
-}
-
-int remove_last_entry(int) {
-  delete_last_stats_row();
-  return KEY_DONE;
+int surface_variable() {
+  const int chosen = choose_surface_variable();
+  return chosen < 0 ? KEY_DONE : recall_token(SLOT_U + chosen);
 }
 
 int plot_variable(int) {
   constexpr int variables[] = {SLOT_X, SLOT_THETA, SLOT_T};  // by TPlotType
-  if (plot_variables.plotType == PLOT_3D) return KEY_DONE;
+  if (plot_variables.plotType == PLOT_3D) return surface_variable();
   return recall_token(variables[plot_variables.plotType]);
 }
 
-int all_clear(int) {
-  clear_calculator(true);
+int enter_function(int) {
+  enter_plot_function();
   return KEY_DONE;
 }
 
-int tab(int key) {
-  press_tab(key - 43);
+int enter_test(int) {
+  const int test = choose_test();
+  return test < 0 ? KEY_DONE : test;
+}
+
+int enter_constant(int) {
+  if (insert_selected_constant() == CONSTANT_ELEMENTS) show_periodic_screen();
   return KEY_DONE;
 }
 
-int scroll_left(int) {
-  scroll_result_left();
+int enter_conversion(int) {
+  insert_selected_conversion();
   return KEY_DONE;
 }
 
-int scroll_right(int) {
-  scroll_result_right();
+int take_expression_back(int) {
+  show_expressions();
   return KEY_DONE;
 }
 
-constexpr unsigned IDLE_ONLY = NOT_RUNNING | NOT_ON_ERROR;
+int write_string(int) {
+  start_alpha_entry(ALPHA_STRING);
+  return KEY_DONE;
+}
 
-// plain, blue, orange
-constexpr TKeyRow comp_keys[] = {
-    /* 0 */ {action(toggle_orange), none, none},
-    /* 1 */ {action(toggle_blue), none, none},
-    /* 2 */ {action(toggle_hyp), none, none},
-    /* 3 */ {token(3), token(203), none},
-    /* 4 */ {token(4), token(204), none},
-    /* 5 */ {action(trigonometric), none, none},
-    /* 6 */ {action(trigonometric), none, none},
-    /* 7 */ {action(trigonometric), none, none},
-    /* 8 */ {token(8, NOT_RUNNING), none, none},
-    /* 9 */ {token(9, NOT_RUNNING), none, none},
-    /* 10 */ {none, none, none},
-    /* 11 */ {token(11), token(111), none},
-    /* 12 */ {token(12), token(112), none},
-    /* 13 */ {token(13), token(113), none},
-    /* 14 */ {token(14), none, none},
-    /* 15 */ {token(15), token(115), none},
-    /* 16 */ {action(cycle_angle, NOT_RUNNING), action(angle_mark), none},
-    /* 17 */ {token(17), token(117), token(217)},
-    /* 18 */ {token(18), token(120), none},
-    /* 19 */ {token(20), token(19), none},
-    /* 20 */ {action(delete_at_cursor, NOT_RUNNING), none, none},
-    /* 21 */ {action(move_left, NOT_RUNNING), action(move_left, NOT_RUNNING), none},
-    /* 22 */ {action(move_right, NOT_RUNNING), action(move_right, NOT_RUNNING), none},
-    /* 23 */ {token(23), token(173), token(123)},
-    /* 24 */ {token(24), none, none},
-    /* 25 */ {token(25, IDLE_ONLY), none, none},
-    /* 26 */ {action(evaluate_and_enter, IDLE_ONLY), none, action(plot_variable)},
-    /* 27 */ {action(all_clear, NOT_RUNNING), action(remove_last_entry, NOT_ON_ERROR), none},
-    /* 28 */ {token(28), none, none},
-    /* 29 */ {token(29), none, none},
-    /* 30 */ {token(30), none, none},
-    /* 31 */ {token(31), none, none},
-    /* 32 */ {token(32), none, none},
-    /* 33 */ {token(33), none, none},
-    /* 34 */ {token(34), none, none},
-    /* 35 */ {token(35), none, none},
-    /* 36 */ {token(36), none, none},
-    /* 37 */ {token(37), none, none},
-    /* 38 */ {token(38), none, none},
-    /* 39 */ {token(39), none, none},
-    /* 40 */ {token(40), none, none},
-    /* 41 */ {token(41), none, none},
-    /* 42 */ {action(evaluate, NOT_ON_ERROR), none, none},
-    /* 43 */ {action(tab), none, none},
-    /* 44 */ {action(tab), none, none},
-    /* 45 */ {action(tab), none, none},
-    /* 46 */ {action(tab), none, none},
-    /* 47 */ {action(tab), none, none},
-    /* 48 */ {action(tab), none, none},
-    /* 49 */ {none, none, none},
-    /* 50 */ {action(scroll_left), none, none},
-    /* 51 */ {action(scroll_right), none, none},
+// first and last key, plain, blue, orange
+constexpr TKeyRow rows[] = {
+    {0, 0, action(toggle_orange)},
+    {1, 1, action(toggle_blue)},
+    {2, 2, action(toggle_hyp)},
+    {3, 3, token(3), token(203)},
+    {4, 4, token(4), token(204)},
+    {5, 7, action(trigonometric)},
+    {8, 8, token(8, NOT_RUNNING), action(enter_constant, IDLE_ONLY)},
+    {9, 9, token(9, NOT_RUNNING), action(enter_conversion, IDLE_ONLY)},
+    {10, 10, action(recall_variable, IDLE_ONLY), action(store_variable, IDLE_ONLY)},
+    {11, 11, token(11), token(111)},
+    {12, 12, token(12), token(112)},
+    {13, 13, token(13), token(113)},
+    {14, 14, token(14), action(enter_test, IDLE_ONLY)},
+    {15, 15, token(15), token(115)},
+    {16, 16, action(cycle_angle, NOT_RUNNING), action(angle_mark)},
+    {17, 17, token(17), token(117), token(217)},
+    {18, 18, token(18), token(120)},
+    {19, 19, token(20), token(19)},
+    {20, 20, action(delete_at_cursor, NOT_RUNNING), action(take_expression_back, IDLE_ONLY)},
+    {21, 21, action(move_left, NOT_RUNNING), action(move_left, NOT_RUNNING)},
+    {22, 22, action(move_right, NOT_RUNNING), action(move_right, NOT_RUNNING)},
+    {23, 23, token(23), token(173), token(123)},
+    {24, 24, token(24), none, action(write_string, IDLE_ONLY)},
+    {25, 25, token(25, IDLE_ONLY), action(enter_catalog_function, IDLE_ONLY),
+     action(enter_system_variable, IDLE_ONLY)},
+    {26, 26, action(evaluate_and_enter, IDLE_ONLY), action(enter_function, IDLE_ONLY),
+     action(plot_variable, IDLE_ONLY)},
+    {27, 27, action(all_clear, NOT_RUNNING), action(remove_last_stats_entry, NOT_ON_ERROR),
+     action(choose_items_to_clear, IDLE_ONLY)},
+    {28, 41, action(enter_key_number)},
+    {42, 42, action(evaluate, NOT_ON_ERROR)},
+    {43, 48, action(press_calculator_tab)},
+    {49, 49, action(run_or_stop_program)},
+    {50, 50, action(scroll_left)},
+    {51, 51, action(scroll_right)},
 };
-constexpr int COMP_KEY_COUNT = sizeof comp_keys / sizeof comp_keys[0];
-static_assert(COMP_KEY_COUNT == 52);
-
-const TMeaning& shifted(const TKeyRow& row, TKeyMeaning meaning) {
-  if (meaning == MEANING_BLUE) return row.blue;
-  return meaning == MEANING_ORANGE ? row.orange : row.plain;
-}
-
-TKeyMeaning wanted_meaning() {
-  if (state.blue_shift) return MEANING_BLUE;
-  return state.orange_shift ? MEANING_ORANGE : MEANING_PLAIN;
-}
-
-bool refused(const TMeaning& meaning) {
-  const bool running = state.program_running && !state.at_prompt;
-  return ((meaning.refused & NOT_RUNNING) && running) ||
-         ((meaning.refused & NOT_ON_ERROR) && errors.error_flag);
-}
+static_assert(names_each_key(rows, 52));
 
 }  // namespace
 
-int comp_key_pressed(int key) {
-  if (key < 0 || key >= COMP_KEY_COUNT) return KEY_DONE;
-  const TKeyRow& row = comp_keys[key];
-  TKeyMeaning wanted = wanted_meaning();
-  if (is_later_key(key, wanted)) return KEY_DONE;
-  if (!shifted(row, wanted).defined()) wanted = MEANING_PLAIN;
-  const TMeaning& meaning = shifted(row, wanted);
-  if (is_later_key(key, wanted) || !meaning.defined() || refused(meaning)) return KEY_DONE;
-  return meaning.act ? meaning.act(key) : meaning.token;
-}
+const TKeyMap comp_key_map = {rows, std::size(rows)};
 
 }  // namespace zephyl

@@ -2,6 +2,7 @@
 
 #include "engine/expression.h"
 #include "engine/state.h"
+#include "faceplate/alpha_view.h"
 #include "faceplate/display.h"
 #include "faceplate/entry_line_view.h"
 #include "faceplate/gif.h"
@@ -10,6 +11,7 @@
 #include "faceplate/resources.h"
 #include "faceplate/result_line_view.h"
 #include "faceplate/title.h"
+#include "plot/plot.h"
 #include "plot/plot_variables.h"
 
 namespace zephyl {
@@ -23,7 +25,6 @@ constexpr int PROGRAM_TAB = 43;
 constexpr int PLOT_TAB = 82;
 constexpr int FOURTH_TAB = 121;
 
-constexpr TRect PLOT_RECT = {7, 6, 232, 185};
 constexpr TRect PROGRAM_LINE_RECT = {7, 6, 232, 25};
 constexpr TRect PROGRAM_LIST_RECT = {7, 36, 232, 185};
 
@@ -87,8 +88,16 @@ void paint_decimal_comma(TSurface& surface) {
   draw_picture(surface, skinned_name("comma_button_gif"), 51, 270);
 }
 
+// What stands in the upper row of the display.
+void paint_upper_line(TSurface& surface) {
+  if (state.alpha_active)
+    paint_alpha_text(surface);
+  else if (shows_entry_line())
+    paint_entry_line(surface, entry_line.cursor_shown);
+}
+
 void paint_lines(TSurface& surface) {
-  if (shows_entry_line()) paint_entry_line(surface, entry_line.cursor_shown);
+  paint_upper_line(surface);
   paint_result_line(surface);
 }
 
@@ -118,7 +127,7 @@ void paint_program_edit(TSurface& surface) {
   paint_tabs(surface);
   surface.fill(PROGRAM_LINE_RECT, display_colour());
   surface.fill(PROGRAM_LIST_RECT, display_colour());
-  if (shows_entry_line()) paint_entry_line(surface, entry_line.cursor_shown);
+  paint_upper_line(surface);
 }
 
 void paint_periodic(TSurface& surface) { draw_gif_resource(surface, "periodic_gif", 0, 0, false, false); }
@@ -126,11 +135,13 @@ void paint_periodic(TSurface& surface) { draw_gif_resource(surface, "periodic_gi
 void paint_plot(TSurface& surface) {
   const bool surface_plot = plot_variables.plotType == PLOT_3D;
   draw_backdrop(surface, skinned_name("PLOT_BACKGROUND_GIF"), 0, 0);
-  surface.fill(PLOT_RECT, WHITE);
   draw_picture(surface,
                skinned_name(surface_plot ? "plot_calculator_3d_gif" : "plot_calculator_function_gif"), 0, 0);
   paint_tabs(surface);
+  paint_indicator(surface, PART_PLOT_LEDS);
   paint_indicator(surface, PART_TRACE_LEDS);
+  // Last: a plot that takes long shows while it grows, on a front that is complete.
+  surface.blit(PLOT_LEFT, PLOT_TOP, PLOT_WIDTH, PLOT_HEIGHT, shown_plot(), 0, 0);
 }
 
 void paint_table(TSurface& surface, const char* background, const char* front) {
@@ -154,6 +165,7 @@ constexpr void (*screen_painters[])(TSurface& surface) = {paint_base,         pa
 void paint_screen(TSurface& surface) {
   refresh_title();
   if (state.calcMode >= BASE_MODE && state.calcMode <= LIST_MODE) screen_painters[state.calcMode](surface);
+  if (state.alpha_active) paint_alpha_overlay(surface);
 }
 
 }  // namespace zephyl

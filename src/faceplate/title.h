@@ -1,4 +1,5 @@
-// The title line of the window, which carries the state.
+// The title line of the window, which carries the state: the number of statistics data, the variable on the
+// table screens with its size, the plot's type and cursor.
 #pragma once
 
 namespace zephyl {

@@ -25,7 +25,8 @@ class TSilentPlatform : public TPlatform {
   bool choose_file(const TFileQuestion&, std::string&) override { return false; }
   void play_click() override {}
   void show_help() override {}
-  const char* data_folder() override { return "."; }
+  // Nothing is kept: no file can lie there.
+  const char* data_folder() override { return "/dev/null"; }
 };
 
 }  // namespace zephyl

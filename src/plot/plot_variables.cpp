@@ -48,6 +48,16 @@ void set_plot_defaults() {
   hooks.plot_changed();
 }
 
+void set_plot_type(int plot_type) {
+  plot_variables.plotType = plot_type;
+  plot_variables.plotCursor = active_plot_cursor();
+}
+
+int active_plot_cursor() {
+  const bool rotates_flat = plot_variables.plotCursor == CURSOR_ROTATE && plot_variables.plotType != PLOT_3D;
+  return rotates_flat ? static_cast<int>(CURSOR_TRACE) : plot_variables.plotCursor;
+}
+
 void reset_plot_variables() { plot_variables = {}; }
 
 namespace {
@@ -56,6 +66,7 @@ void redraw_plot() { hooks.plot_changed(); }
 
 // The type decides which keys the front has.
 void redraw_type() {
+  set_plot_type(plot_variables.plotType);
   hooks.plot_changed();
   hooks.redraw_title();
   platform().invalidate(false);

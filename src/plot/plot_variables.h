@@ -40,6 +40,11 @@ bool set_plot_view(double xMin, double yMin, double xMax, double yMax);
 // The values of the Defaults button; the ranges are one turn in the current angle mode. plotType3D stays.
 void set_plot_defaults();
 
+// Sets plotType; a plot without depth has no Rotate cursor, which becomes Trace.
+void set_plot_type(int plot_type);
+// The cursor that the pen works: Rotate is Trace outside of 3D.
+int active_plot_cursor();
+
 // As at the very start, in silence.
 void reset_plot_variables();
 

@@ -61,7 +61,10 @@ void expect_x_next() {
   stats_changed();
 }
 
-void show_operation(TScalarCall&) { show_stats_list(); }
+// A plot that has it in its function shows no list for each of its samples.
+void show_operation(TScalarCall& call) {
+  if (!call.plotting) show_stats_list();
+}
 
 // Takes its place in front of the owners of other items.
 void (*clear_other_item)(int item) = nullptr;

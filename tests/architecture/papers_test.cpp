@@ -62,8 +62,8 @@ std::vector<std::string> named_files(const std::string& text) {
   return names;
 }
 
-bool exists(const std::string& name, const std::set<std::string>& files) {
-  if (fs::exists(ROOT / name)) return true;
+bool exists(const std::string& name, const fs::path& paper, const std::set<std::string>& files) {
+  if (fs::exists(ROOT / name) || fs::exists(paper.parent_path() / name)) return true;
   for (const std::string& file : files)
     if (ends_with(file, "/" + name)) return true;
   return false;
@@ -75,7 +75,17 @@ TEST(papers, the_files_that_they_name_are_there) {
   const std::set<std::string> files = repository_files();
   for (const fs::path& paper : papers())
     for (const std::string& name : named_files(text_of(paper)))
-      EXPECT_TRUE(exists(name, files)) << paper.filename() << " names " << name;
+      EXPECT_TRUE(exists(name, paper, files)) << paper.filename() << " names " << name;
+}
+
+TEST(papers, the_manual_lists_its_pages) {
+  const std::string index = text_of(ROOT / "docs/manual/README.md");
+  for (const fs::directory_entry& page : fs::directory_iterator(ROOT / "docs/manual")) {
+    const std::string name = page.path().filename().string();
+    if (name == "README.md") continue;
+    EXPECT_NE(index.find("](" + name + ")"), std::string::npos)
+        << name << " is missing in docs/manual/README.md";
+  }
 }
 
 TEST(papers, names_of_files_are_found_in_a_text) {

@@ -1,6 +1,7 @@
 // Work on single rows and columns.
 
 #include "collections/matrices.h"
+#include "engine/memory.h"
 
 namespace zephyl {
 
@@ -38,6 +39,17 @@ TEST_F(matrices, without_their_last_line_are_undefined) {
   EXPECT_EQ(matrix("colDel([B],1)*2"), "Matrix Size Not Defined");
   EXPECT_EQ(matrix("rowDel([A],1) -> [C]"), "Matrix Size Not Defined");
   EXPECT_EQ(stored('C'), "undefined");
+}
+
+TEST_F(matrices, a_result_without_a_size_leaves_the_answers_as_they_were) {
+  define('A', "1 2 3");
+  eval("42");
+  EXPECT_EQ(error_of("rowDel([A],1)"), "Matrix Size Not Defined");
+  EXPECT_FALSE(answers.m_ans_valid);
+  EXPECT_EQ(answers.ans.re, 42.0);
+  matrix("[A]");
+  EXPECT_EQ(error_of("solveQR(initMatrix(2,1,5))"), "Matrix Size Not Defined");
+  EXPECT_EQ(text_of_matrix(stores.matrices[ANSWER_RECORD]), "1 2 3");
 }
 
 TEST_F(matrices, lines_outside_are_refused) {

@@ -10,7 +10,6 @@
 #include "engine/poll.h"
 #include "engine/state.h"
 #include "faceplate/face.h"
-#include "faceplate/modes.h"
 #include "plot/plot_variables.h"
 
 namespace zephyl {
@@ -169,14 +168,6 @@ TEST_F(key_path, no_key_of_any_mode_breaks_the_calculator) {
   EXPECT_EQ(eval("2+2"), "4");
 }
 
-TEST_F(key_path, a_key_of_the_overlay_is_no_key_of_the_mode) {
-  state.alpha_active = true;
-  for (int key = 0; key < shown_key_table().count; ++key) tap_key(key);
-  type("(Q%");
-  EXPECT_EQ(codes(), "");
-  EXPECT_EQ(shifts(), "");
-}
-
 TEST_F(key_path, any_event_anywhere_leaves_a_calculator_that_answers) {
   unsigned random = 1;
   const auto next = [&random](unsigned below) {
@@ -273,73 +264,6 @@ TEST_F(key_path, a_second_start_is_as_good_as_the_first) {
   EXPECT_EQ(plot_variables.xMax, 10.0);
   EXPECT_EQ(codes(), "");
   EXPECT_EQ(shifts(), "");
-}
-
-class mode_changes : public face {};
-
-TEST_F(mode_changes, an_expression_changes_the_mode) {
-  EXPECT_EQ(eval("3->calcMode"), "3");
-  EXPECT_EQ(state.calcMode, STATS_MODE);
-  EXPECT_TRUE(platform_.paint_requested);
-}
-
-TEST_F(mode_changes, four_modes_take_the_fourth_tab) {
-  for (const int mode : {BASE_MODE, STATS_MODE, MATRIX_MODE, LIST_MODE}) {
-    set_mode(mode, false);
-    EXPECT_EQ(state.calcMode, mode);
-    EXPECT_EQ(state.dynamic_mode, mode);
-  }
-  for (const int mode : {COMP_MODE, PLOT_MODE}) {
-    set_mode(mode, false);
-    EXPECT_EQ(state.calcMode, mode);
-    EXPECT_EQ(state.dynamic_mode, LIST_MODE);
-  }
-}
-
-TEST_F(mode_changes, the_mode_that_is_set_asks_for_no_paint) {
-  platform_.paint_requested = false;
-  set_mode(COMP_MODE, true);
-  EXPECT_FALSE(platform_.paint_requested);
-}
-
-TEST_F(mode_changes, numbers_that_are_no_mode_change_nothing) {
-  for (const int mode : {-1, 8, 100}) set_mode(mode, false);
-  EXPECT_EQ(state.calcMode, COMP_MODE);
-}
-
-TEST_F(mode_changes, the_first_tab_of_each_screen_leads_back) {
-  const struct {
-    int mode;
-    int key;
-  } ways[] = {{BASE_MODE, 43}, {STATS_MODE, 43}, {PROGRAM_EDIT_MODE, 18}, {PERIODIC_MODE, 0},
-              {PLOT_MODE, 12}, {MATRIX_MODE, 0}, {LIST_MODE, 0}};
-  for (const auto& way : ways) {
-    state.calcMode = way.mode;
-    tap_key(way.key);
-    EXPECT_EQ(state.calcMode, COMP_MODE) << "mode " << way.mode;
-  }
-}
-
-TEST_F(mode_changes, the_title_of_statistics_counts_the_data) {
-  set_mode(STATS_MODE, false);
-  EXPECT_EQ(platform_.title, "Zephyl (n=0)");
-  eval("2->statsVar");
-  EXPECT_EQ(platform_.title, "Zephyl (n=0, x)");
-  set_mode(COMP_MODE, false);
-  EXPECT_EQ(platform_.title, "Zephyl");
-}
-
-TEST_F(mode_changes, the_line_and_the_memories_stay) {
-  type("12");
-  set_mode(STATS_MODE, false);
-  EXPECT_EQ(codes(), "33 34");
-}
-
-TEST_F(mode_changes, a_result_is_written_in_the_way_of_the_new_mode) {
-  type("255\r");
-  settings.baseType = U_HEX;
-  set_mode(BASE_MODE, false);
-  EXPECT_STREQ(state.result_text, "00FFh");
 }
 
 }  // namespace

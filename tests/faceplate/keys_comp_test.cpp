@@ -1,6 +1,6 @@
 // Every key of COMP_MODE in each of its meanings.
 
-#include "faceplate/keys_comp.h"
+#include "faceplate/key_maps.h"
 
 #include "engine/errors.h"
 #include "engine/expression.h"
@@ -17,6 +17,8 @@ class keys_comp : public face {
  protected:
   // The tokens that a key enters behind some shift keys, "" for none.
   std::string tokens_of(const std::vector<int>& shift_keys, int key) {
+    state.calcMode = COMP_MODE;
+    state.alpha_active = false;
     tap_key(27);
     state.hyp_shift = false;
     tap_keys(shift_keys);
@@ -63,7 +65,6 @@ TEST_F(keys_comp, each_key_enters_its_token_in_each_meaning) {
     EXPECT_EQ(tokens_of({BLUE_KEY}, row.key), row.blue) << "blue key " << row.key;
     EXPECT_EQ(tokens_of({ORANGE_KEY}, row.key), row.orange) << "orange key " << row.key;
   }
-  EXPECT_EQ(state.calcMode, COMP_MODE);
 }
 
 TEST_F(keys_comp, every_key_but_the_shifts_ends_blue_and_orange) {
@@ -242,7 +243,7 @@ TEST_F(keys_comp, a_key_without_its_subsystem_changes_nothing) {
   tap_key(33);
   for (int key = 0; key < calculator_keys.count; ++key)
     for (const TKeyMeaning meaning : {MEANING_PLAIN, MEANING_BLUE, MEANING_ORANGE}) {
-      if (!is_later_key(key, meaning)) continue;
+      if (!is_later_key(COMP_MODE, key, meaning)) continue;
       if (meaning != MEANING_PLAIN) tap_key(meaning == MEANING_BLUE ? BLUE_KEY : ORANGE_KEY);
       tap_key(key);
       EXPECT_EQ(codes(), "33") << "key " << key;
@@ -253,8 +254,8 @@ TEST_F(keys_comp, a_key_without_its_subsystem_changes_nothing) {
 }
 
 TEST_F(keys_comp, a_number_that_is_no_key_does_nothing) {
-  EXPECT_EQ(comp_key_pressed(52), -2);
-  EXPECT_EQ(comp_key_pressed(-1), -2);
+  EXPECT_EQ(press_mapped_key(comp_key_map, 52), -2);
+  EXPECT_EQ(press_mapped_key(comp_key_map, -1), -2);
 }
 
 }  // namespace

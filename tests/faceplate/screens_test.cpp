@@ -75,6 +75,7 @@ TEST_F(screens, brightness_leaves_the_display_alone) {
 }
 
 TEST_F(screens, a_plot_has_a_white_surface) {
+  plot_variables.displayGrid = 0;
   state.calcMode = PLOT_MODE;
   paint();
   EXPECT_EQ(screen().pixel(120, 100), WHITE);
@@ -178,7 +179,7 @@ TEST_F(indicators, each_acts_only_on_a_screen_that_holds_it) {
       {STATS_MODE, {PART_AC_AND_ARROWS, PART_SHIFTS, PART_BLUE, PART_STATS_VAR, PART_REGRESSION, PART_RUN}},
       {PROGRAM_EDIT_MODE, {PART_SHIFTS, PART_BLUE}},
       {PERIODIC_MODE, {}},
-      {PLOT_MODE, {PART_TRACE_LEDS}},
+      {PLOT_MODE, {PART_PLOT_LEDS, PART_TRACE_LEDS}},
       {MATRIX_MODE, {}},
       {LIST_MODE, {}},
       {8, {}}};

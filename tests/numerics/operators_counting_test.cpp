@@ -161,5 +161,11 @@ TEST_F(counting_operators, a_list_is_no_value_of_an_expression) {
     EXPECT_EQ(error_of(text), "Function Argument Type") << text;
 }
 
+TEST_F(counting_operators, neither_a_matrix_nor_a_string_is_a_value_of_an_expression) {
+  for (const char* text : {"fnEval(Iden(2),x,3)", "Summ([A],x,1,3)", "Seq(\"a\",x,1,3)", "fnInt([A],x,0,1)",
+                           "fnRoot(Iden(2)*x,x,0,1)", "fnDeriv(str1,x,0)"})
+    EXPECT_EQ(error_of(text), "Function Argument Type") << text;
+}
+
 }  // namespace
 }  // namespace zephyl

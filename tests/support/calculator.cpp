@@ -35,6 +35,11 @@ void TTestPlatform::show_message(const char* text, const char* title_word) {
   messages.push_back(std::string(title_word) + " | " + text);
 }
 
+bool TTestPlatform::ask_question(const char* text, const char* title_word) {
+  questions.push_back(std::string(title_word) + " | " + text);
+  return answer;
+}
+
 void TTestPlatform::run_dialog(TDialog& dialog) {
   dialogs.push_back(std::to_string(dialog.id()) + " " + dialog.title);
   dialog.tell(DIALOG_OPENED);
@@ -61,6 +66,12 @@ calculator::calculator() {
 calculator::~calculator() {
   on_stop();
   set_platform(nullptr);
+}
+
+void calculator::restart(const std::string& folder) {
+  on_stop();
+  platform_.folder = folder;
+  on_start();
 }
 
 std::string calculator::eval(const std::string& text) {

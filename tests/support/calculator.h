@@ -1,4 +1,5 @@
-// A calculator for tests, without a window: a platform that keeps what it is told, and a fixture that starts afresh.
+// A calculator for tests, without a window: a platform that keeps what it is told, and a fixture that starts
+// afresh.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -23,11 +24,14 @@ class TTestPlatform : public TPlatform {
   std::deque<TPoint> pen_downs;       // waiting in the queue
   bool cancel_waiting = false;
   bool paint_requested = false;
-  std::vector<std::string> dialogs;   // "ID TITLE" of those that opened
+  std::vector<std::string> dialogs;  // "ID TITLE" of those that opened
   std::deque<std::function<void(TDialog&)>> dialog_answers;
   std::deque<std::string> file_answers;
   int clicks = 0;
   std::string title;
+  // The data folder. At first it is none, so that no test leaves files to another; a test that wants files takes a
+  // TTestFolder (file_faults.h) and sets its path.
+  std::string folder = "/dev/null/data";
   // Milliseconds that pass with each look at the clock.
   std::uint32_t ticks_per_look = 0;
 
@@ -43,14 +47,15 @@ class TTestPlatform : public TPlatform {
   void set_title(const char* text) override { title = text; }
   void set_wait_cursor(bool) override {}
   void show_message(const char* text, const char* title_word) override;
-  bool ask_question(const char*, const char*) override { return answer; }
+  std::vector<std::string> questions;  // "TITLE | TEXT"
+  bool ask_question(const char* text, const char* title_word) override;
   // The oldest of dialog_answers plays the user; where there is none the dialog is cancelled.
   void run_dialog(TDialog& dialog) override;
   // The oldest of file_answers; "" or none: Cancel.
   bool choose_file(const TFileQuestion& question, std::string& path) override;
   void play_click() override { ++clicks; }
   void show_help() override {}
-  const char* data_folder() override { return "."; }
+  const char* data_folder() override { return folder.c_str(); }
 };
 
 // Every test has a calculator as it is after its start: COMP_MODE, radians, ST_REAL, Float.
@@ -72,6 +77,8 @@ class calculator : public ::testing::Test {
   std::string codes() const;
   // The oldest message box not asked for yet, "TITLE | TEXT"; "none".
   std::string message();
+  // Starts again, with the data in that folder.
+  void restart(const std::string& folder);
 
   TTestPlatform platform_;
 };

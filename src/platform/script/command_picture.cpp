@@ -8,6 +8,7 @@
 #include "platform/script/png_writer.h"
 #include "platform/script/script.h"
 #include "platform/surface.h"
+#include "plot/plot.h"
 
 namespace zephyl {
 
@@ -32,7 +33,10 @@ bool obey_pixel(TScript& script, const std::string& text) {
 bool obey_plot(TScript& script, const std::string& text) {
   int x = 0, y = 0;
   if (!read_point(text, x, y)) return false;
-  script.refuse("there is no plot surface");
+  if (!PLOT_AREA.contains(x, y))
+    script.refuse("outside of the plot");
+  else
+    script.answer(hexadecimal(shown_plot().pixel(x, y), 6));
   return true;
 }
 

@@ -1,0 +1,87 @@
+#include "plot/plot_labels.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "engine/errors.h"
+#include "engine/format.h"
+#include "engine/hooks.h"
+#include "engine/state.h"
+#include "plot/custom_function.h"
+#include "plot/plot_grid.h"
+#include "plot/plot_variables.h"
+#include "plot/small_numbers.h"
+
+namespace zephyl {
+
+namespace {
+
+constexpr int LINE_HEIGHT = 9;
+constexpr int FIRST_LINE = 2;
+constexpr int DECIMALS = 10;
+
+struct TErrorWord {
+  int code;
+  const char* name;
+};
+
+constexpr TErrorWord error_words[] = {
+    {ERR_OVERFLOW, "SMALL_OVERFLOW"},
+    {ERR_OVERFLOW_TOO, "SMALL_OVERFLOW"},
+    {ERR_ZERO_DIVIDE, "SMALL_DIV_BY_ZERO"},
+    {ERR_MATH, "SMALL_DOMAIN"},
+    {ERR_DOMAIN, "SMALL_DOMAIN"},
+    {ERR_SYNTAX, "SMALL_SYNTAX_ERROR"},
+    {ERR_ARGUMENT_COUNT, "SMALL_SYNTAX_ERROR"},
+    {ERR_PARENTHESIS_UNBALANCED, "SMALL_SYNTAX_ERROR"},
+    {ERR_TO_HMS_NOT_LAST, "SMALL_SYNTAX_ERROR"},
+    {ERR_NO_STATS_DATA, "SMALL_NO_DATA"},
+    {ERR_NO_STATS_Y_DATA, "SMALL_NO_DATA"},
+    {ERR_DATA_TYPE, "SMALL_DATA_TYPE"},
+    {ERR_ARGUMENT_TYPE, "SMALL_DATA_TYPE"},
+    {ERR_NO_ROOT, "SMALL_NO_ROOT_FOUND"},
+    {ERR_NO_INTERSECTION, "SMALL_NO_INTERSECT_FOUND"},
+    {UNDEFINED_WITHOUT_ERROR, "SMALL_UNDEFINED"},
+};
+
+}  // namespace
+
+const char* small_error_word(int error_code) {
+  const TErrorWord* word = std::find_if(std::begin(error_words), std::end(error_words),
+                                        [error_code](const TErrorWord& row) { return row.code == error_code; });
+  return word != std::end(error_words) ? word->name : "SMALL_ERROR";
+}
+
+int draw_small_word(TSurface& surface, const char* name, int left, int top) {
+  const TBitmap* word = hooks.bitmap(name);
+  if (!word) return left;
+  surface.blit_glyph(*word, left, top);
+  return left + word->width;
+}
+
+int draw_small_line(TSurface& surface, const char* name, double value, int left, int top) {
+  left = draw_small_word(surface, name, left, top);
+  if (value == undefined_value) return draw_small_word(surface, small_error_word(plot_error_code), left, top);
+  char text[RESULT_TEXT_SIZE];
+  format_real(text, value, FORMAT_FLOAT, DECIMALS, false);
+  return draw_small_number(surface, text, left, top, false, true);
+}
+
+void draw_view_labels(TSurface& surface) {
+  const TPlotVariables& view = plot_variables;
+  const struct {
+    const char* name;
+    double value;
+  } lines[] = {{"SMALL_XMIN", view.xMin},
+               {"SMALL_XMAX", view.xMax},
+               {"SMALL_YMIN", view.yMin},
+               {"SMALL_YMAX", view.yMax},
+               {"SMALL_XDIV", grid_spacing(view.xMax - view.xMin)},
+               {"SMALL_YDIV", grid_spacing(view.yMax - view.yMin)}};
+  if (!view.displayGrid) return;
+  const int count = view.plotType == PLOT_3D ? 4 : 6;
+  for (int i = 0; i < count; ++i)
+    draw_small_line(surface, lines[i].name, lines[i].value, LABEL_LEFT, FIRST_LINE + LINE_HEIGHT * i);
+}
+
+}  // namespace zephyl

@@ -1,0 +1,120 @@
+#include "tools/dialogs/money_dialogs.h"
+
+#include "engine/errors.h"
+#include "engine/state.h"
+#include "support/calculator.h"
+#include "tools/tvm_state.h"
+
+namespace zephyl {
+
+namespace {
+
+class money_dialogs : public calculator {
+ protected:
+  void set(TDialog& dialog, const char* field, const char* text) {
+    EXPECT_TRUE(set_text(dialog, find_control(dialog, field), text)) << field;
+  }
+  void press(TDialog& dialog, const char* button) {
+    EXPECT_TRUE(press_button(dialog, find_control(dialog, button))) << button;
+  }
+  std::string text(TDialog& dialog, const char* field) { return dialog[find_control(dialog, field)].text; }
+  void in_solver(std::function<void(TDialog&)> act) {
+    platform_.dialog_answers.push_back(std::move(act));
+    show_tvm_solver();
+  }
+};
+
+TEST_F(money_dialogs, a_payment_is_solved_and_stored) {
+  in_solver([this](TDialog& dialog) {
+    EXPECT_EQ(text(dialog, "P/Y"), "12");
+    set(dialog, "N", "360");
+    set(dialog, "I%YR =", "6");
+    set(dialog, "PV", "200000");
+    press(dialog, "Solve PMT");
+    EXPECT_EQ(text(dialog, "PMT"), "-1199.1010503");
+    EXPECT_FALSE(dialog.closed());
+  });
+  EXPECT_NEAR(tvm_value(TVM_PMT), -1199.1010503, 1e-6);
+}
+
+TEST_F(money_dialogs, the_due_time_counts_and_defaults_set_everything_back) {
+  in_solver([this](TDialog& dialog) {
+    set(dialog, "N", "12");
+    set(dialog, "I%YR =", "12");
+    set(dialog, "PMT", "-100");
+    choose_row(dialog, find_control(dialog, "PMT @"), 1);
+    press(dialog, "Solve FV");
+    EXPECT_EQ(text(dialog, "FV"), "1280.9328043");
+    press(dialog, "Defaults");
+    EXPECT_EQ(text(dialog, "N"), "0");
+    EXPECT_EQ(text(dialog, "C/Y"), "12");
+    EXPECT_EQ(dialog[find_control(dialog, "PMT @")].selected, 0);
+  });
+  EXPECT_FALSE(tvm_state.begin);
+}
+
+TEST_F(money_dialogs, a_field_that_can_not_be_read_keeps_the_old_value) {
+  set_tvm_value(TVM_N, 24.0);
+  in_solver([this](TDialog& dialog) {
+    set(dialog, "N", "many");
+    press(dialog, "Exit");
+  });
+  EXPECT_EQ(tvm_value(TVM_N), 24.0);
+}
+
+TEST_F(money_dialogs, an_error_shows_in_a_box_and_is_cleared) {
+  in_solver([this](TDialog& dialog) {
+    set(dialog, "N", "10");
+    set(dialog, "PV", "100");
+    set(dialog, "FV", "100");
+    press(dialog, "Solve I%YR");
+    EXPECT_EQ(message(), "TVM Solver | No TVM Sign Change");
+    EXPECT_EQ(text(dialog, "I%YR ="), "0");
+  });
+  EXPECT_FALSE(errors.error_flag);
+}
+
+TEST_F(money_dialogs, a_schedule_has_a_row_for_each_payment_up_to_2000) {
+  set_tvm_value(TVM_N, 2000.0);
+  set_tvm_value(TVM_I, 6.0);
+  set_tvm_value(TVM_PV, 1000.0);
+  set_tvm_value(TVM_PMT, -10.0);
+  platform_.dialog_answers.push_back([](TDialog& dialog) {
+    ASSERT_EQ(dialog[0].rows.size(), 2000u);
+    EXPECT_EQ(dialog[0].rows[0], "1\t-5\t-5\t995");
+  });
+  show_amortization_schedule();
+  EXPECT_EQ(platform_.dialogs.back(), "209 Amortization Schedule");
+}
+
+TEST_F(money_dialogs, a_longer_schedule_is_refused) {
+  in_solver([this](TDialog& dialog) {
+    set(dialog, "N", "2001");
+    press(dialog, "Amortization Schedule");
+    EXPECT_EQ(message(),
+              "Amortization Schedule | Can't create schedule due to the TVM N value being greater than 2000.");
+  });
+  EXPECT_EQ(platform_.dialogs.size(), 1u);
+}
+
+TEST_F(money_dialogs, a_schedule_without_payments_has_no_rows) {
+  set_tvm_value(TVM_N, -3.0);
+  platform_.dialog_answers.push_back([](TDialog& dialog) { EXPECT_TRUE(dialog[0].rows.empty()); });
+  show_amortization_schedule();
+}
+
+TEST_F(money_dialogs, a_row_that_can_not_be_computed_tells_the_error) {
+  set_tvm_value(TVM_N, 1.0);
+  set_tvm_value(TVM_I, 5.0);
+  set_tvm_value(TVM_PV, 100.0);
+  set_tvm_value(TVM_CY, 0.0);
+  platform_.dialog_answers.push_back([](TDialog& dialog) {
+    EXPECT_EQ(dialog[0].rows[0], "1\tDivision by Zero\tDivision by Zero\tDivision by Zero");
+  });
+  show_amortization_schedule();
+  EXPECT_FALSE(errors.error_flag);
+}
+
+}  // namespace
+
+}  // namespace zephyl
