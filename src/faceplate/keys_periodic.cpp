@@ -6,20 +6,33 @@
 #include "faceplate/key_maps.h"
 #include "faceplate/key_path.h"
 #include "faceplate/modes.h"
+#include "tools/dialogs/element_dialogs.h"
 
 namespace zephyl {
 
 namespace {
+
+constexpr int FIRST_ELEMENT_KEY = 2;
 
 int leave(int) {
   set_mode(COMP_MODE, true);
   return KEY_DONE;
 }
 
+int list_elements(int) {
+  show_element_table();
+  return KEY_DONE;
+}
+
+int tell_element(int key) {
+  show_element_information(key - FIRST_ELEMENT_KEY);
+  return KEY_DONE;
+}
+
 constexpr TKeyRow rows[] = {
     {0, 0, action(leave)},
-    {1, 1, none},      // the table of all elements
-    {2, 110, none},    // an element
+    {1, 1, action(list_elements)},
+    {FIRST_ELEMENT_KEY, 110, action(tell_element)},
     {111, 111, none},  // behind the last element there is none
 };
 static_assert(names_each_key(rows, 112));

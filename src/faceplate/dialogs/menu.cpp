@@ -8,6 +8,8 @@
 #include "faceplate/modes.h"
 #include "platform/dialog.h"
 #include "platform/platform.h"
+#include "tools/dialogs/money_dialogs.h"
+#include "tools/stopwatch.h"
 
 namespace zephyl {
 
@@ -46,7 +48,7 @@ constexpr TMenuRow menu_items[] = {
     {"MATRIX Mode", "Linear algebra matrix computations.", ON_ERROR, MATRIX_MODE, nullptr},
     {"PROG Mode", "Create and edit programs.", ON_ERROR, PROGRAM_EDIT_MODE, nullptr},
     {"PLOT Mode", "Function, polar, parametric and 3D plotting.", ON_ERROR, PLOT_MODE, nullptr},
-    {"TVM Solver", "Solve time value of money problems.", ON_ERROR | RUNNING, NO_MODE, nullptr},
+    {"TVM Solver", "Solve time value of money problems.", ON_ERROR | RUNNING, NO_MODE, show_tvm_solver},
     {"Constants", "Scientific constants.", ON_ERROR | RUNNING_UNPAUSED, NO_MODE, nullptr},
     {"Conversions", "Convert from one unit to another.", ON_ERROR | RUNNING_UNPAUSED, NO_MODE, nullptr},
     {"Periodic Table", "View the periodic table of the elements.", ON_ERROR | RUNNING_UNPAUSED, NO_MODE,
@@ -55,7 +57,7 @@ constexpr TMenuRow menu_items[] = {
      "Sample plots for each plot type (function, polar, parametric, 3D cartesian, 3D cylindrical, 3D "
      "spherical).",
      ON_ERROR, NO_MODE, nullptr},
-    {"Stopwatch", "Time events.", ON_ERROR | RUNNING, NO_MODE, nullptr},
+    {"Stopwatch", "Time events.", ON_ERROR | RUNNING, NO_MODE, show_stopwatch},
     {"View Help File", "View the help file.", FREE, NO_MODE, show_help},
 };
 
