@@ -32,6 +32,13 @@ int recall_variable(int key);
 int store_variable(int key);
 int choose_items_to_clear(int key);
 
+// The catalogs: the token that was chosen goes into the expression.
+int enter_catalog_function(int key);
+int enter_system_variable(int key);
+
+// The run key; in program edit it saves the program first.
+int run_or_stop_program(int key);
+
 // The six tabs of the screens with digit keys, from key 43 on.
 int press_calculator_tab(int key);
 

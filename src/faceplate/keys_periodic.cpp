@@ -12,27 +12,27 @@ namespace zephyl {
 
 namespace {
 
-constexpr int FIRST_ELEMENT_KEY = 2;
-
 int leave(int) {
   set_mode(COMP_MODE, true);
   return KEY_DONE;
 }
 
-int list_elements(int) {
+int show_table(int) {
   show_element_table();
   return KEY_DONE;
 }
 
-int tell_element(int key) {
+constexpr int FIRST_ELEMENT_KEY = 2;
+
+int show_element(int key) {
   show_element_information(key - FIRST_ELEMENT_KEY);
   return KEY_DONE;
 }
 
 constexpr TKeyRow rows[] = {
     {0, 0, action(leave)},
-    {1, 1, action(list_elements)},
-    {FIRST_ELEMENT_KEY, 110, action(tell_element)},
+    {1, 1, action(show_table)},
+    {2, 110, action(show_element)},
     {111, 111, none},  // behind the last element there is none
 };
 static_assert(names_each_key(rows, 112));

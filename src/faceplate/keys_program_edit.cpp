@@ -18,7 +18,7 @@ int press_program_tab(int key) {
 
 // first and last key, plain, blue
 constexpr TKeyRow rows[] = {
-    {0, 0, none},  // save and run
+    {0, 0, action(run_or_stop_program)},
     {1, 1, action(toggle_blue)},
     {2, 2, none},                  // cursor up, page up
     {3, 3, none},                  // cursor down, page down

@@ -6,6 +6,7 @@
 #include "engine/state.h"
 #include "faceplate/dialogs/menu.h"
 #include "faceplate/dialogs/plot_note.h"
+#include "faceplate/dialogs/setup.h"
 #include "faceplate/title.h"
 #include "platform/platform.h"
 #include "plot/drawing.h"
@@ -87,6 +88,8 @@ void press_tab(int tab) {
       return show_dynamic_mode();
     case TAB_MENU:
       return show_menu();
+    case TAB_SETUP:
+      return show_setup();
     default:
       return;
   }
