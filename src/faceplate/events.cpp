@@ -8,6 +8,7 @@
 #include "engine/faults.h"
 #include "engine/operation_table.h"
 #include "engine/state.h"
+#include "faceplate/dialogs/remembered.h"
 #include "faceplate/display.h"
 #include "faceplate/entry_line_view.h"
 #include "faceplate/key_feedback.h"
@@ -16,11 +17,13 @@
 #include "faceplate/title.h"
 #include "numerics/random.h"
 #include "persistence/constants.h"
+#include "persistence/settings.h"
 #include "platform/platform.h"
 #include "plot/drawing.h"
 #include "plot/plot.h"
 #include "plot/plot_variables.h"
 #include "plot/zoom_locks.h"
+#include "programs/programs.h"
 #include "stats/stats.h"
 #include "tools/tvm_state.h"
 
@@ -29,6 +32,7 @@ namespace zephyl {
 namespace {
 
 void reset_all() {
+  reset_programs();
   reset_engine();
   list_view = {};
   matrix_view = {};
@@ -38,6 +42,7 @@ void reset_all() {
   reset_plot();
   reset_drawing();
   reset_tvm_state();
+  remembered = {};
   forget_key_feedback();
 }
 
@@ -49,6 +54,7 @@ void on_start() {
   clear_faults();
   check_operation_array();
   seed_random(0.0);
+  load_settings();
   clear_calculator(true);
   check_function_arguments();
   load_units_and_constants(false);
@@ -58,7 +64,11 @@ void on_start() {
   platform().invalidate(false);
 }
 
-void on_stop() { forget_key_feedback(); }
+void on_stop() {
+  if (state.calcMode == PROGRAM_EDIT_MODE) save_program();
+  forget_key_feedback();
+  save_settings();
+}
 
 void on_pen_down(int x, int y) {
   state.swallow_up = false;
@@ -90,8 +100,8 @@ void on_paint() {
   paint_screen(screen_surface());
 }
 
-// Nothing goes on by itself between two events.
-bool on_idle() { return false; }
+// All that goes on by itself between two events is a program, one statement a round.
+bool on_idle() { return program_tick(); }
 
 const TSurface& screen() { return screen_surface(); }
 
