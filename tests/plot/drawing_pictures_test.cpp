@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 
 #include "numerics/random.h"
@@ -16,6 +17,8 @@ struct TPictureRow {
   const char* name;
   const char* commands[10];
 };
+
+void PrintTo(const TPictureRow& row, std::ostream* out) { *out << row.name; }
 
 constexpr TPictureRow rows[] = {
     {"drawing_lines",

@@ -4,6 +4,7 @@
 
 #include "engine/errors.h"
 #include "engine/state.h"
+#include "faceplate/dialogs/remembered.h"
 #include "faceplate/dialogs/sample_plots.h"
 #include "faceplate/modes.h"
 #include "persistence/constant_dialogs.h"
@@ -49,8 +50,8 @@ struct TMenuRow {
   const char* text;
   const char* description;
   unsigned refused;
-  int mode;        // the mode that it sets, or NO_MODE
-  void (*act)();   // else what it does
+  int mode;       // the mode that it sets, or NO_MODE
+  void (*act)();  // else what it does
 };
 constexpr int NO_MODE = -1;
 
@@ -75,7 +76,7 @@ constexpr TMenuRow menu_items[] = {
     {"View Help File", "View the help file.", FREE, NO_MODE, show_help},
 };
 
-int last_row = 0;
+int& last_row = remembered.menu_row;
 
 bool refused(unsigned refusals) {
   const bool paused = state.at_prompt || state.key_wait;
