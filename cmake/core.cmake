@@ -10,3 +10,8 @@ file(GLOB platform_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/platform/*.
 
 add_library(zephyl_core STATIC ${core_sources} ${platform_sources})
 target_link_libraries(zephyl_core PUBLIC zephyl_options)
+
+# The loops over rows of matrices are worth being vectorised.
+set(vectorised ${core_sources})
+list(FILTER vectorised INCLUDE REGEX "/src/collections/(matrix_|decompositions/)")
+set_source_files_properties(${vectorised} PROPERTIES COMPILE_OPTIONS "$<$<CONFIG:Release>:-O3>")

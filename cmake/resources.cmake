@@ -34,3 +34,15 @@ add_custom_command(
   DEPENDS ${text_files} ${CMAKE_SOURCE_DIR}/cmake/text_table.cmake
   COMMENT "Gathering the texts")
 target_sources(zephyl_core PRIVATE ${texts_source})
+
+# The built-in programs, one a file, as one text (programs/built_in_programs.h).
+set(programs_folder ${CMAKE_SOURCE_DIR}/resources/programs)
+file(GLOB program_files CONFIGURE_DEPENDS ${programs_folder}/*.prgm)
+set(programs_source ${CMAKE_BINARY_DIR}/generated/built_in_programs_data.cpp)
+add_custom_command(
+  OUTPUT ${programs_source}
+  COMMAND ${CMAKE_COMMAND} -D folder=${programs_folder} -D output=${programs_source}
+          -P ${CMAKE_SOURCE_DIR}/cmake/built_in_programs.cmake
+  DEPENDS ${program_files} ${CMAKE_SOURCE_DIR}/cmake/built_in_programs.cmake
+  COMMENT "Joining the built-in programs")
+target_sources(zephyl_core PRIVATE ${programs_source})

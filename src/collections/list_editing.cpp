@@ -101,7 +101,8 @@ int reversed(ListRecord& result, const TListOperands& operands, const TFamilyCal
 }
 
 int made_global(ListRecord& result, const TListOperands& operands, const TFamilyCall& call) {
-  if (call.lists[0] >= 0 && call.lists[0] < ANSWER_RECORD) hooks.make_global(SLOT_LIST_A + call.lists[0]);
+  const bool stored = call.lists[0] >= 0 && call.lists[0] < ANSWER_RECORD;
+  hooks.make_global(stored ? SLOT_LIST_A + call.lists[0] : NO_SLOT);
   return copied(result, *operands.first);
 }
 

@@ -40,7 +40,7 @@ void put_element_direct(TFamilyCall& call) {
 }
 
 bool made_global(MatrixRecord& result, const TMatrixOperands& operands, const TFamilyCall& call) {
-  if (is_stored_matrix(call.matrices[0])) hooks.make_global(SLOT_MATRIX_A + call.matrices[0]);
+  hooks.make_global(is_stored_matrix(call.matrices[0]) ? SLOT_MATRIX_A + call.matrices[0] : NO_SLOT);
   copy_matrix(result, *operands.first);
   return true;
 }

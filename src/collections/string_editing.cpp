@@ -89,7 +89,7 @@ void make_global(TFamilyCall& call) {
   if (!read_string_operands(call, 1, operands)) return;
   TString* result = string_result(call);
   if (!result) return;
-  if (call.strings[0] < ANSWER_RECORD) hooks.make_global(SLOT_STR1 + call.strings[0]);
+  hooks.make_global(call.strings[0] < ANSWER_RECORD ? SLOT_STR1 + call.strings[0] : NO_SLOT);
   copy_string(*result, *operands.first);
 }
 

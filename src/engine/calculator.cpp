@@ -32,12 +32,22 @@ void process_items(bool compile_only) {
   if (!compile_only) run_with_wait_cursor();
 }
 
-// The line with its result, or its error, on the display.
-void present_evaluation() {
-  show_result(true, true);
+// The line with its result, or its error, on the display. An answer that a program has taken is not shown.
+void present_evaluation(bool taken_by_program) {
+  if (!taken_by_program) show_result(true, true);
   state.nothing_evaluated = false;
   hooks.draw_expression(false);
   state.fresh_flag = true;
+}
+
+// At the prompt for a function: the line itself is the answer.
+void answer_function_prompt() {
+  if (entry_line.expression.count > 0) {
+    hooks.function_prompt_answered();
+    state.fresh_flag = true;
+  }
+  entry_line.cursor = entry_line.expression.count;
+  hooks.draw_expression(entry_line.expression.count == 0);
 }
 
 }  // namespace
@@ -46,17 +56,25 @@ const TCompiled& last_compiled() { return compiled; }
 
 bool evaluate_expression(bool compile_only) {
   if (state.program_running && !state.at_prompt) return false;
+  if (state.at_function_prompt) {
+    answer_function_prompt();
+    return false;
+  }
+  const bool at_prompt = state.at_prompt;
+  hooks.evaluation_begins();
   clear_error();
   if (!compile_only) state.fresh_flag = true;
   tokens_to_items(entry_line.expression);
+  if (at_prompt) hooks.prompt_entered();
   const bool has_items = item_list.count > 0;
   const bool ready = has_items && !errors.error_flag;
   if (ready) process_items(compile_only);
   const bool shows = entry_line.expression.count > 0 && (!ready || !compile_only || errors.error_flag);
-  if (shows) present_evaluation();
+  const bool taken = at_prompt && !state.at_prompt;
+  if (shows) present_evaluation(taken);
   hooks.redraw_part(PART_AC_AND_ARROWS);
   if (!compile_only || errors.error_flag) entry_line.cursor = entry_line.expression.count;
-  return shows && ready && !errors.error_flag;
+  return shows && ready && !errors.error_flag && !taken;
 }
 
 void clear_calculator(bool redraw) {
@@ -70,11 +88,12 @@ void clear_calculator(bool redraw) {
   stores.strings[ANSWER_RECORD].text[0] = 0;
   state.fresh_flag = true;
   state.nothing_evaluated = true;
-  if (!state.at_prompt) state.result_text[0] = 0;
+  // A prompt stands again where an error stood.
+  std::snprintf(state.result_text, sizeof state.result_text, "%s", state.at_prompt ? state.prompt_text : "");
   state.result_shown = false;
   if (!redraw) return;
   hooks.draw_expression(true);
-  if (!state.at_prompt) hooks.draw_result(true);
+  hooks.draw_result(true);
   if (error_stood) hooks.redraw_part(PART_AC_AND_ARROWS);
 }
 

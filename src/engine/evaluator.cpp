@@ -19,9 +19,6 @@ namespace {
 
 const TCompiled* walked = nullptr;
 
-// Set while a numeric operator re-runs its body: from then on errors in the body are errors.
-bool iterating[STEP_LIMIT] = {};
-
 // What a whole walk depends on.
 struct TWalk {
   const TCompiled& compiled;
@@ -99,7 +96,7 @@ void abandon_operator(TNumericState& numeric) {
 // True if the error ends the walk. In a dry pass it is forgiven, or stands while the walk goes on; the step's
 // value is 0.
 bool error_ends_walk(const TStep& step, const TOutcome& outcome) {
-  if (step.numeric_frame < 0 || iterating[step.numeric_frame] || outcome.stop_on_error) return true;
+  if (step.numeric_frame < 0 || numeric_states[step.numeric_frame].iterating || outcome.stop_on_error) return true;
   set_number_result(step.result, {});
   if (stands_in_dry_pass(errors.error_code)) return false;
   clear_error();
@@ -194,12 +191,12 @@ bool run_rounds(const TWalk& walk, const TStep& step) {
 // round.
 int next_step(const TStep& step, const TOutcome& outcome, int index) {
   if (step.arg_kind != KIND_NUMERIC) return index + 1;
-  iterating[step.frame] = outcome.repeat;
+  numeric_states[step.frame].iterating = outcome.repeat;
   return outcome.repeat ? step.body_start : index + 1;
 }
 
 void walk_general(const TWalk& walk) {
-  std::fill(iterating, iterating + walk.compiled.frame_count, false);
+  for (int i = 0; i < walk.compiled.frame_count; ++i) numeric_states[i].iterating = false;
   int index = 0;
   while (index < walk.compiled.count) {
     const TStep& step = walk.compiled.steps[index];
@@ -349,6 +346,7 @@ void reset_evaluator() {
   for (TRegister& reg : registers) reg = {};
   walked = nullptr;
   runs_under_way = 0;
+  forget_evaluations();
   reset_poll();
 }
 

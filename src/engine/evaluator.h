@@ -50,6 +50,7 @@ struct TNumericState {
   double saved = 0.0;
   int variable = -1;  // memory slot
   int phase = 0;
+  bool iterating = false;  // it re-runs its body: from then on errors in the body are errors
 };
 
 extern TFuncFrame func_frames[STEP_LIMIT];
@@ -68,6 +69,13 @@ bool is_evaluating();
 
 // The walk alone; the value is left in register 0.
 void walk_steps(const TCompiled& compiled, bool plotting);
+
+// Puts the walk that is under way aside for a custom function, which evaluates expressions of its own, and takes it up
+// again. False, with ERR_PROGRAM_NESTING or ERR_MEMORY_LIMIT reported, where there is no place for it.
+constexpr int EVALUATION_DEPTH = 5;
+bool push_evaluation();
+void pop_evaluation();
+void forget_evaluations();
 
 // Looks into the event queue: paints what waits, and reports ERR_CANCELED for a tap on a key. True: abandon the walk.
 bool pump_messages();

@@ -87,10 +87,17 @@ struct THooks {
   void (*run_function)(const char* name, const TFuncFrame& arguments) = [](const char*, const TFuncFrame&) {};
   // Before a matrix, list or string store changes: slot 90 to 129.
   void (*about_to_store)(int slot) = [](int) {};
-  // A list, matrix or string store (slot 90 to 129) keeps its value when the running program ends.
+  // A list, matrix or string store (slot 90 to 129) keeps its value when the running program ends. NO_SLOT stands for a
+  // value that is no named store: ERR_ARGUMENT_TYPE while a program runs.
   void (*make_global)(int slot) = [](int) {};
+  // An evaluation from the keyboard, or a plot, begins: what was read of programs before may have changed.
+  void (*evaluation_begins)() = [] {};
+  // The evaluate key at the prompt of an `in` statement, before its expression runs.
+  void (*prompt_entered)() = [] {};
   // The value that an `in` statement waits for has arrived.
   void (*prompt_answered)() = [] {};
+  // The evaluate key at the prompt of an `in f()` statement, with an expression on the line.
+  void (*function_prompt_answered)() = [] {};
   // Any owner: clears item n of TClearItem that the engine does not hold.
   void (*clear_item)(int n) = [](int) {};
 };

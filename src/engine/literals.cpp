@@ -1,13 +1,13 @@
 // List and string literals: one buffer that the separators fill from the last element to the first.
 
+#include <algorithm>
+
 #include "engine/errors.h"
 #include "engine/step_run.h"
 
 namespace zephyl {
 
 namespace {
-
-constexpr int LITERAL_LIMIT = 1000;
 
 struct TLiteral {
   TValue elements[LITERAL_LIMIT];
@@ -50,6 +50,16 @@ void deliver_string(int reg) {
 }  // namespace
 
 void clear_literal() { literal.count = 0; }
+
+int copy_literal(TValue* to) {
+  std::copy(literal.elements, literal.elements + literal.count, to);
+  return literal.count;
+}
+
+void set_literal(const TValue* from, int count) {
+  std::copy(from, from + count, literal.elements);
+  literal.count = count;
+}
 
 void run_literal_step(TStepRun& run) {
   const TOp_Code op = run.step.op;

@@ -114,17 +114,25 @@ const char* const clear_labels[] = {"Real/Complex Variables", "Stats Data",     
                                     "Expression Entries",     "Program Functions", "Program Input Buffer",
                                     "String Variables",       "Clear All Items"};
 
+// What a program clears is local to its run as well.
+void keep_stores(int first_slot) {
+  for (int slot = first_slot; slot < first_slot + ANSWER_RECORD; ++slot) hooks.about_to_store(slot);
+}
+
 void clear_lists() {
+  keep_stores(SLOT_LIST_A);
   for (ListRecord& list : stores.lists) clear_list(list);
   answers.l_ans_valid = false;
 }
 
 void clear_matrices() {
+  keep_stores(SLOT_MATRIX_A);
   for (MatrixRecord& matrix : stores.matrices) clear_matrix(matrix);
   answers.m_ans_valid = false;
 }
 
 void clear_strings() {
+  keep_stores(SLOT_STR1);
   for (TString& string : stores.strings) string.text[0] = 0;
   answers.str_ans_valid = false;
 }

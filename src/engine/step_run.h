@@ -38,6 +38,10 @@ bool check_arguments(TStepRun& run);
 // The steps of list and string literals, OP_LIST_FIRST_COMMA to OP_STRING_SINGLE.
 void run_literal_step(TStepRun& run);
 void clear_literal();
+// The elements of an unfinished literal, LITERAL_LIMIT at most: for a walk that is put aside.
+constexpr int LITERAL_LIMIT = 1000;
+int copy_literal(TValue* to);
+void set_literal(const TValue* from, int count);
 
 // A step on numbers; has_list: on the elements of its list operands one by one.
 void run_scalar_step(TStepRun& run, bool has_list);

@@ -171,8 +171,8 @@ void TStrip::copy_row(TColour* to, const std::uint8_t* from, int first, int last
 void TStrip::copy_paired_row(TColour* to, const std::uint8_t* from, int first, int last) const {
   for (int x = first; x < last; ++x) {
     const int v = from[2 * x] + 256 * from[2 * x + 1];
+    // None of these is pure magenta: nothing is transparent.
     const TColour colour = rgb((v & 31) << 3, ((v >> 5) & 63) << 2, (v >> 8) & 248);
-    if (transparent_ && colour == TRANSPARENT_COLOUR) continue;
     to[x_ + x] = adjust_ ? adjusted_colour(colour) : colour;
   }
 }

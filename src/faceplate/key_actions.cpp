@@ -8,12 +8,15 @@
 #include "engine/memory.h"
 #include "engine/state.h"
 #include "engine/tokens.h"
+#include "faceplate/catalog/function_catalog.h"
+#include "faceplate/catalog/variable_catalog.h"
 #include "faceplate/dialogs/clear_items.h"
 #include "faceplate/dialogs/select_variable.h"
 #include "faceplate/indicators.h"
 #include "faceplate/key_path.h"
 #include "faceplate/modes.h"
 #include "faceplate/result_line_view.h"
+#include "programs/programs.h"
 #include "stats/stats.h"
 
 namespace zephyl {
@@ -126,9 +129,24 @@ int choose_items_to_clear(int) {
   return KEY_DONE;
 }
 
+int run_or_stop_program(int) {
+  run_key_pressed();
+  return KEY_DONE;
+}
+
 int press_calculator_tab(int key) {
   press_tab(key - 43);
   return KEY_DONE;
+}
+
+int enter_catalog_function(int) {
+  const int token = select_function();
+  return token == NO_FUNCTION_TOKEN ? KEY_DONE : token;
+}
+
+int enter_system_variable(int) {
+  const int token = select_system_variable();
+  return token == NO_VARIABLE_TOKEN ? KEY_DONE : token;
 }
 
 }  // namespace zephyl

@@ -38,15 +38,16 @@ int outcode(double x, double y) {
   return vertical | horizontal;
 }
 
-// Moves the end (x, y), which lies beyond the edges of `code`, along the line onto the first of them.
+// Moves the end (x, y), which lies beyond the edges of `code`, along the line onto the first of them. Reckoned from the
+// other end, which may be much nearer.
 void move_to_edge(int code, double& x, double& y, double other_x, double other_y) {
   if (code & (PAST_BOTTOM | PAST_TOP)) {
     const double edge = code & PAST_BOTTOM ? PLOT_AREA.bottom : PLOT_AREA.top;
-    x += (other_x - x) * ((edge - y) / (other_y - y));
+    x = other_x + (x - other_x) * ((edge - other_y) / (y - other_y));
     y = edge;
   } else {
     const double edge = code & PAST_RIGHT ? PLOT_AREA.right : PLOT_AREA.left;
-    y += (other_y - y) * ((edge - x) / (other_x - x));
+    y = other_y + (y - other_y) * ((edge - other_x) / (x - other_x));
     x = edge;
   }
 }

@@ -8,11 +8,13 @@
 #include "engine/errors.h"
 #include "engine/hooks.h"
 #include "engine/state.h"
-#include "faceplate/dialogs/about.h"
+#include "faceplate/alpha_entry.h"
 #include "faceplate/dialogs/colour.h"
 #include "faceplate/face.h"
 #include "faceplate/modes.h"
+#include "persistence/constants.h"
 #include "persistence/settings.h"
+#include "persistence/state_file.h"
 #include "support/file_faults.h"
 #include "support/golden.h"
 
@@ -44,7 +46,6 @@ class setup : public face {
     plots_asked_for = 0;
     hooks.plot_changed = [] { ++plots_asked_for; };
   }
-  ~setup() override { setup_actions = {}; }
 
   using TUser = std::function<void(TDialog&)>;
   // Taps the tab; the users play one after the other, in the order in which the dialogs open.
@@ -159,56 +160,75 @@ TEST_F(setup, its_buttons_lead_to_help_and_about) {
 }
 
 TEST_F(setup, the_way_to_the_constants_closes_without_saving) {
-  setup_actions.edit_constants = [] { platform().show_message("constants", "Test"); };
   open({[](TDialog& dialog) {
-    check(dialog, "Fixed");
-    press(dialog, "Edit Constants");
-    EXPECT_TRUE(dialog.closed());
-  }});
-  EXPECT_EQ(message(), "Test | constants");
+          check(dialog, "Fixed");
+          press(dialog, "Edit Constants");
+          EXPECT_TRUE(dialog.closed());
+        },
+        [](TDialog& dialog) {
+          EXPECT_EQ(dialog.id(), 181);
+          press(dialog, "Cancel");
+        }});
   EXPECT_EQ(settings.numberFormat, FORMAT_FLOAT);
-  EXPECT_FALSE(saved());
+  EXPECT_FALSE(state.alpha_active);
+  EXPECT_EQ(folder_.names(), "");
+}
+
+TEST_F(setup, a_new_constant_is_named_and_given_a_unit) {
+  const int before = constant_count();
+  eval("42");
+  open({[](TDialog& dialog) { press(dialog, "Edit Constants"); },
+        [](TDialog& dialog) {
+          choose(dialog, "Action:", 0);
+          press(dialog, "OK");
+        }});
+  ASSERT_TRUE(state.alpha_active);
+  type("Answer\rm\r");
+  EXPECT_FALSE(state.alpha_active);
+  EXPECT_EQ(message(), "none");
+  EXPECT_EQ(constant_count(), before + 1);
+  EXPECT_EQ(folder_.names(), "constants.const");
+}
+
+TEST_F(setup, a_name_in_use_is_told_and_ends_the_entry) {
+  open({[](TDialog& dialog) { press(dialog, "Edit Constants"); }, [](TDialog& dialog) { press(dialog, "OK"); }});
+  alpha_entry.text[0] = 0;
+  type(std::string(constant_name(0)) + "\r\r");
+  EXPECT_EQ(message(), "Error | Constant name in use");
+  EXPECT_FALSE(state.alpha_active);
 }
 
 TEST_F(setup, saving_a_state_leaves_it_open) {
-  setup_actions.save_state = [] { platform().show_message("state", "Test"); };
+  platform_.file_answers.push_back(folder_.file("kept.state"));
   open({[](TDialog& dialog) {
-    press(dialog, "Save State");
-    EXPECT_FALSE(dialog.closed());
-  }});
-  EXPECT_EQ(message(), "Test | state");
+          press(dialog, "Save State");
+          EXPECT_FALSE(dialog.closed());
+        },
+        [](TDialog& dialog) {
+          EXPECT_EQ(dialog.id(), 217);
+          press(dialog, "OK");
+        }});
+  EXPECT_EQ(folder_.names(), "kept.state startup.txt");
 }
 
 TEST_F(setup, a_loaded_state_closes_it_and_stands) {
-  setup_actions.load_state = [] {
-    settings.decimalDigits = 8;
-    return true;
-  };
+  settings.decimalDigits = 8;
+  save_state(folder_.file("kept.state").c_str());
+  settings.decimalDigits = 2;
+  platform_.file_answers.push_back(folder_.file("kept.state"));
   open({[](TDialog& dialog) {
     choose(dialog, "Decimal Digits:", 3);
     press(dialog, "Load State");
     EXPECT_TRUE(dialog.closed());
   }});
   EXPECT_EQ(settings.decimalDigits, 8);
-  EXPECT_EQ(plots_asked_for, 1);
   EXPECT_EQ(read_setting("precision"), "8");
 }
 
 TEST_F(setup, a_file_question_that_is_cancelled_leaves_it_open) {
-  setup_actions.load_state = [] { return false; };
   open({[](TDialog& dialog) {
     press(dialog, "Load State");
     EXPECT_FALSE(dialog.closed());
-  }});
-}
-
-TEST_F(setup, buttons_without_an_owner_do_nothing) {
-  open({[](TDialog& dialog) {
-    press(dialog, "Save State");
-    press(dialog, "Load State");
-    EXPECT_FALSE(dialog.closed());
-    press(dialog, "Edit Constants");
-    EXPECT_TRUE(dialog.closed());
   }});
 }
 

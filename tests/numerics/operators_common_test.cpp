@@ -99,6 +99,23 @@ TEST_F(operators, a_body_may_store_into_its_variable) {
   expect_variable_restored("stored", 75);
 }
 
+TEST_F(operators, a_body_may_be_a_plot_function) {
+  eval("x^2->f1(x)");
+  EXPECT_EQ(value("Summ(f1(x),x,1,3)"), 14.0);
+  EXPECT_NEAR(value("fnInt(f1(x),x,0,1)"), 1.0 / 3, 1e-12);
+  eval("fnInt(x*y,y,0,1)->f2(x)");
+  EXPECT_EQ(error_of("fnInt(f2(x),x,0,1)"), "Can't Nest fnInt()");
+  expect_variable_restored("f2");
+}
+
+TEST_F(operators, a_plot_function_that_leads_to_itself_ends_in_an_error) {
+  for (const char* text : {"x->f1(x)", "f1(x)->f2(x)", "f2(x)->f1(x)"}) eval(text);
+  for (const std::string& text : operators_on_x) {
+    EXPECT_EQ(error_of(with_body(text, "f1(x)")), "Memory Limit Error") << text;
+    expect_variable_restored(text);
+  }
+}
+
 TEST_F(operators, the_stack_of_loop_variables_ends_at_eleven) {
   for (int i = 0; i < LOOP_VARIABLE_LIMIT; ++i) push_loop_variable(SLOT_X, OP_SUMM);
   EXPECT_FALSE(errors.error_flag);

@@ -28,8 +28,10 @@ class TTestPlatform : public TPlatform {
   std::deque<std::function<void(TDialog&)>> dialog_answers;
   std::deque<std::string> file_answers;
   int clicks = 0;
-  std::string folder = "/dev/null";  // of the data: one that no file can lie in
   std::string title;
+  // The data folder. At first it is none, so that no test leaves files to another; a test that wants files takes a
+  // TTestFolder (file_faults.h) and sets its path.
+  std::string folder = "/dev/null/data";
   // Milliseconds that pass with each look at the clock.
   std::uint32_t ticks_per_look = 0;
 

@@ -6,15 +6,17 @@
 #include "engine/errors.h"
 #include "engine/hooks.h"
 #include "engine/state.h"
+#include "faceplate/alpha_entry.h"
 #include "faceplate/dialogs/about.h"
 #include "faceplate/dialogs/colour.h"
+#include "persistence/constant_dialogs.h"
+#include "persistence/constants.h"
 #include "persistence/settings.h"
+#include "persistence/state_file.h"
 #include "platform/dialog.h"
 #include "platform/platform.h"
 
 namespace zephyl {
-
-TSetupActions setup_actions;
 
 namespace {
 
@@ -30,8 +32,6 @@ std::vector<std::string> digit_rows() {
   for (int digits = 0; digits <= MOST_DIGITS; ++digits) rows.push_back(std::to_string(digits));
   return rows;
 }
-
-void show_help() { platform().show_help(); }
 
 class TSetup {
  public:
@@ -53,12 +53,8 @@ class TSetup {
 
 void close_for_constants(TDialog& dialog) { dialog.close(SETUP_EDIT_CONSTANTS); }
 
-void save_state(TDialog&) {
-  if (setup_actions.save_state) setup_actions.save_state();
-}
-
-void load_state(TDialog& dialog) {
-  if (setup_actions.load_state && setup_actions.load_state()) dialog.close(SETUP_LOADED);
+void close_if_loaded(TDialog& dialog) {
+  if (load_state_pressed()) dialog.close(SETUP_LOADED);
 }
 
 TSetup::TSetup() {
@@ -71,9 +67,9 @@ TSetup::TSetup() {
   click_ = dialog_.add(check_control("Key Click?", settings.keyClick != 0));
   add_button("Display Color/Skin", [](TDialog&) { select_colour_and_skin(); }, false);
   add_button("Edit Constants", close_for_constants, true);
-  add_button("Save State", save_state, false);
-  add_button("Load State", load_state, true);
-  add_button("Help", [](TDialog&) { show_help(); }, false);
+  add_button("Save State", [](TDialog&) { save_state_pressed(); }, false);
+  add_button("Load State", close_if_loaded, true);
+  add_button("Help", [](TDialog&) { platform().show_help(); }, false);
   add_button("About", [](TDialog&) { show_about(); }, true);
   add_ok_cancel(dialog_);
   dialog_.procedure = [this](TDialog&, const TDialogEvent& event) {
@@ -120,6 +116,18 @@ void TSetup::take_over() const {
   settings.skin = pending_display.skin;
 }
 
+// The value of the new constant is Ans. Whether it could be added or not, the entry of its unit is over.
+bool add_typed_constant(int, const char* unit) {
+  add_constant(alpha_entry.constant_name, unit);
+  return true;
+}
+
+void change_constants() {
+  if (!edit_constants()) return;
+  set_alpha_taker(ALPHA_CONSTANT_UNIT, add_typed_constant);
+  start_alpha_entry(ALPHA_CONSTANT_NAME);
+}
+
 // The result line, the plot and the picture follow what has changed.
 void refresh_all() {
   refresh_result();
@@ -134,10 +142,7 @@ void show_setup() {
   pending_display = {settings.display_color, settings.brightness, settings.skin};
   TSetup setup;
   const int result = setup.run();
-  if (result == SETUP_EDIT_CONSTANTS) {
-    if (setup_actions.edit_constants) setup_actions.edit_constants();
-    return;
-  }
+  if (result == SETUP_EDIT_CONSTANTS) return change_constants();
   if (result == SETUP_OK) setup.take_over();
   if (result != DIALOG_CANCELLED) refresh_all();
   save_settings();
