@@ -17,6 +17,7 @@
 #include "plot/drawing.h"
 #include "plot/plot.h"
 #include "plot/plot_variables.h"
+#include "programs/programs.h"
 #include "stats/stats.h"
 #include "tools/cash_flows.h"
 #include "tools/molecular_mass.h"
@@ -59,6 +60,7 @@ void register_families() {
   register_molecular_mass();
   register_units();
   register_state_operations();
+  register_programs();
   register_faceplate_hooks();
 }
 

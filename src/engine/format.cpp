@@ -303,6 +303,8 @@ void plain_text(const char* text, char* out, int size) {
     const char* spelled = itself;
     for (const TSpelling& spelling : spellings)
       if (spelling.glyph == *text) spelled = spelling.text;
+    const int greek = static_cast<unsigned char>(*text) - FIRST_GREEK_GLYPH;
+    if (greek >= 0 && greek < GREEK_COUNT) spelled = greek_name(greek);
     const bool spacing = *text == GLYPH_NARROW_BLANK && text[1] == 'b';
     while (!spacing && *spelled && out < end) *out++ = *spelled++;
   }

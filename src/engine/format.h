@@ -14,6 +14,7 @@ constexpr char GLYPH_EXPONENT = 27;  // the exponent mark
 constexpr char GLYPH_NARROW_BLANK = 29;
 constexpr char GLYPH_NARROW_0 = 30;
 constexpr char GLYPH_NARROW_1 = 31;
+constexpr int FIRST_GREEK_GLYPH = 144;  // the letters of memories, in their order
 
 // out: RESULT_TEXT_SIZE bytes. format: TNumberFormat, another gives "?"; digits 0 to 10. Halves round away
 // from 0.

@@ -5,6 +5,7 @@
 #include "faceplate/resources.h"
 #include "faceplate/token_glyphs.h"
 #include "platform/platform.h"
+#include "programs/programs.h"
 
 namespace zephyl {
 
@@ -108,9 +109,21 @@ bool shows_entry_line() {
   return !state.alpha_active && (has_digit_keys_or_table() || state.calcMode == PROGRAM_EDIT_MODE);
 }
 
+namespace {
+
+// The words that a running program shows in the line's place.
+void paint_words(TSurface& surface, const char* words) {
+  TPen pen{surface};
+  for (; *words; ++words)
+    if (!pen.draw(character_glyph(static_cast<unsigned char>(*words)))) return;
+}
+
+}  // namespace
+
 void paint_entry_line(TSurface& surface, bool with_cursor) {
   clear_line(surface, ENTRY_LINE_Y);
   map.count = 0;
+  if (program_prompt_line()[0]) return paint_words(surface, program_prompt_line());
   const int first = with_cursor ? first_token_for_cursor() : 0;
   if (first > 0) blit_mark(surface, "left_arrow", LEFT_MARK);
   paint_tokens(surface, first, with_cursor);

@@ -8,6 +8,7 @@
 #include "engine/faults.h"
 #include "engine/operation_table.h"
 #include "engine/state.h"
+#include "faceplate/dialogs/remembered.h"
 #include "faceplate/display.h"
 #include "faceplate/entry_line_view.h"
 #include "faceplate/key_feedback.h"
@@ -22,6 +23,7 @@
 #include "plot/plot.h"
 #include "plot/plot_variables.h"
 #include "plot/zoom_locks.h"
+#include "programs/programs.h"
 #include "stats/stats.h"
 #include "tools/tvm_state.h"
 
@@ -30,6 +32,7 @@ namespace zephyl {
 namespace {
 
 void reset_all() {
+  reset_programs();
   reset_engine();
   list_view = {};
   matrix_view = {};
@@ -39,6 +42,7 @@ void reset_all() {
   reset_plot();
   reset_drawing();
   reset_tvm_state();
+  remembered = {};
   forget_key_feedback();
 }
 
@@ -61,6 +65,7 @@ void on_start() {
 }
 
 void on_stop() {
+  if (state.calcMode == PROGRAM_EDIT_MODE) save_program();
   forget_key_feedback();
   save_settings();
 }
@@ -95,8 +100,8 @@ void on_paint() {
   paint_screen(screen_surface());
 }
 
-// Nothing goes on by itself between two events.
-bool on_idle() { return false; }
+// All that goes on by itself between two events is a program, one statement a round.
+bool on_idle() { return program_tick(); }
 
 const TSurface& screen() { return screen_surface(); }
 

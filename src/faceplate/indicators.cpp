@@ -13,6 +13,7 @@
 #include "platform/platform.h"
 #include "plot/plot_variables.h"
 #include "plot/zoom_locks.h"
+#include "programs/programs.h"
 
 namespace zephyl {
 
@@ -79,7 +80,7 @@ void paint_angle(TSurface& surface) {
 }
 
 void paint_run(TSurface& surface) {
-  if (state.program_running)
+  if (program_can_be_stopped())
     draw_skinned_key(surface, "stop_button_gif", 5, 72);
   else
     draw_key(surface, "run_button_gif", 5, 72);

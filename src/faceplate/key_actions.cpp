@@ -14,6 +14,7 @@
 #include "faceplate/key_path.h"
 #include "faceplate/modes.h"
 #include "faceplate/result_line_view.h"
+#include "programs/programs.h"
 #include "stats/stats.h"
 
 namespace zephyl {
@@ -123,6 +124,11 @@ int store_variable(int) {
 
 int choose_items_to_clear(int) {
   show_items_to_clear();
+  return KEY_DONE;
+}
+
+int run_or_stop_program(int) {
+  run_key_pressed();
   return KEY_DONE;
 }
 

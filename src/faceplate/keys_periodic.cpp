@@ -18,8 +18,8 @@ int leave(int) {
 
 constexpr TKeyRow rows[] = {
     {0, 0, action(leave)},
-    {1, 1, none},    // the table of all elements
-    {2, 110, none},  // an element
+    {1, 1, none},      // the table of all elements
+    {2, 110, none},    // an element
     {111, 111, none},  // behind the last element there is none
 };
 static_assert(names_each_key(rows, 112));

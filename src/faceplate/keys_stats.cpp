@@ -70,7 +70,7 @@ constexpr TKeyRow rows[] = {
     {28, 41, action(enter_key_number)},
     {42, 42, action(evaluate, NOT_ON_ERROR)},
     {43, 48, action(press_calculator_tab)},
-    {49, 49, none},
+    {49, 49, action(run_or_stop_program)},
     {50, 50, action(scroll_left)},
     {51, 51, action(scroll_right)},
 };

@@ -14,15 +14,9 @@ struct TLaterRow {
 };
 
 constexpr TLaterRow later_keys[] = {
-    {BASE_MODE, 49, 49, MEANING_PLAIN, "programs"},
-    {COMP_MODE, 8, 8, MEANING_BLUE, "Select Constant"},
-    {COMP_MODE, 9, 9, MEANING_BLUE, "Select Conversion"},
     {COMP_MODE, 25, 25, MEANING_BLUE, "Select Function"},
     {COMP_MODE, 25, 25, MEANING_ORANGE, "Select Variable, system variables"},
-    {COMP_MODE, 49, 49, MEANING_PLAIN, "programs"},
     {STATS_MODE, 24, 24, MEANING_BLUE, "Select Plot"},
-    {STATS_MODE, 49, 49, MEANING_PLAIN, "programs"},
-    {PROGRAM_EDIT_MODE, 0, 0, MEANING_PLAIN, "programs"},
     {PROGRAM_EDIT_MODE, 2, 17, MEANING_PLAIN, "the program editor"},
     {PROGRAM_EDIT_MODE, 2, 17, MEANING_BLUE, "the program editor"},
     {PERIODIC_MODE, 1, 1, MEANING_PLAIN, "Element Data Table"},

@@ -20,9 +20,7 @@ bool takes_the_fourth_tab(int mode) {
   return mode == BASE_MODE || mode == STATS_MODE || mode == MATRIX_MODE || mode == LIST_MODE;
 }
 
-bool nothing_to_plot() {
-  return plot_variables.enablePlots && !any_slot_in_use() && !drawing_present();
-}
+bool nothing_to_plot() { return plot_variables.enablePlots && !any_slot_in_use() && !drawing_present(); }
 
 void show_plot(bool ask) {
   if (ask && nothing_to_plot()) show_plot_note();

@@ -7,6 +7,7 @@
 #include "engine/state.h"
 #include "platform/platform.h"
 #include "plot/plot_variables.h"
+#include "programs/programs.h"
 #include "stats/stats.h"
 
 namespace zephyl {
@@ -67,6 +68,7 @@ void plot_title(TTitle& title) {
 }  // namespace
 
 void refresh_title() {
+  if (const char* title = program_title()) return platform().set_title(title);
   TTitle title;
   switch (state.calcMode) {
     case STATS_MODE:

@@ -4,7 +4,9 @@
 #include "engine/compiler.h"
 #include "engine/errors.h"
 #include "engine/evaluator.h"
+#include "engine/hooks.h"
 #include "engine/memory.h"
+#include "engine/state.h"
 #include "platform/platform.h"
 
 namespace zephyl {
@@ -40,6 +42,7 @@ double report_bug(const char* text) {
 }
 
 void begin_run(int plot_type, int slot) {
+  if (!state.program_running) hooks.evaluation_begins();
   back_up();
   compile_expression(plot_slot(plot_type, slot), compiled);
   back_up_for(compiled);

@@ -10,6 +10,7 @@
 #include "engine/records.h"
 #include "engine/state.h"
 #include "engine/text_form.h"
+#include "plot/drawing.h"
 #include "programs/function_header.h"
 #include "programs/interpreter.h"
 #include "programs/program_cache.h"
@@ -128,7 +129,10 @@ void end_level() {
   state.at_prompt = waiting.at_prompt;
   state.at_function_prompt = waiting.at_function_prompt;
   state.key_wait = waiting.key_wait;
-  if (is_outermost()) drop_working_functions();
+  if (is_outermost()) {
+    drop_working_functions();
+    resume_drawing_updates();
+  }
   --run.level;
 }
 

@@ -11,6 +11,7 @@
 #include "engine/state.h"
 #include "engine/values.h"
 #include "platform/platform.h"
+#include "plot/drawing.h"
 #include "programs/menu.h"
 #include "programs/output_files.h"
 #include "programs/run_state.h"
@@ -77,6 +78,7 @@ void start_run() {
   set_running();
   state.program_start_tick = platform().tick_count();
   disarm_plot_input();
+  resume_drawing_updates();
   pop_frames_to(0);
   push_frame();
   take_working_functions();
@@ -117,6 +119,7 @@ void end_keypad_run() {
   drop_working_functions();
   if (std::strcmp(state.result_text, RUNNING_TEXT) == 0) state.result_text[0] = 0;
   restore_entry();
+  resume_drawing_updates();
 }
 
 }  // namespace

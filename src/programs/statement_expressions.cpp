@@ -10,7 +10,6 @@
 #include "engine/errors.h"
 #include "engine/evaluator.h"
 #include "engine/expression.h"
-#include "engine/hooks.h"
 #include "engine/state.h"
 #include "engine/tokens.h"
 #include "programs/program.h"
@@ -52,7 +51,6 @@ class TFormPlace {
 struct TKeptForm {
   TKey key;
   bool names_functions = false;  // whose tokens may have changed
-  bool draws = false;
   std::uint32_t use_time = 0;
   std::uint32_t serial = 0;  // another number for another expression
   int walks = 0;             // under way: it can't be replaced
@@ -138,11 +136,6 @@ int form_to_replace() {
   return oldest;
 }
 
-bool is_drawing(const TStep& step) {
-  return (step.op >= OP_LINE && step.op <= OP_JULIA) || step.op == OP_DRAW_LIST_Y || step.op == OP_DRAW_LIST_XY ||
-         step.op == OP_DRAW_STRING || step.op == OP_L_SYSTEM;
-}
-
 // Compiles into a place of its own. NONE, with the error reported, if that fails.
 int compile_form(const TExpression& expression) {
   const int index = form_to_replace();
@@ -152,7 +145,6 @@ int compile_form(const TExpression& expression) {
   form.serial = ++last_serial;
   if (!compile_expression(expression, compiled)) return NONE;
   form.names_functions = any_token(expression, names_function);
-  form.draws = std::any_of(compiled.steps, compiled.steps + compiled.count, is_drawing);
   return index;
 }
 
@@ -186,7 +178,6 @@ void walk_form(int index) {
   ++form.walks;
   run_compiled(places[index].compiled(), false);
   --form.walks;
-  if (form.draws && state.calcMode == PLOT_MODE) hooks.request_plot_redraw();
 }
 
 // The form of an expression that may have changed since it was hinted at.

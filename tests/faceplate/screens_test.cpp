@@ -75,6 +75,7 @@ TEST_F(screens, brightness_leaves_the_display_alone) {
 }
 
 TEST_F(screens, a_plot_has_a_white_surface) {
+  plot_variables.displayGrid = 0;
   state.calcMode = PLOT_MODE;
   paint();
   EXPECT_EQ(screen().pixel(120, 100), WHITE);

@@ -140,12 +140,13 @@ TEST_F(state_file, an_empty_calculator_saves_its_options) {
 }
 
 TEST_F(state_file, options_of_items_stand_in_their_places) {
-  EXPECT_EQ(records('O', {1, 2, 3, 4, 5, 6, 7, 8, 9}),
-            "0:0|22:0|23:0|15:4|16:0|17:0|18:0|19:1|20:1|21:2|24:0|25:0|26:0|27:1|28:1|29:1|33:0.0|34:1|35:0|"
-            "2:1|3:1|4:0|5:0|6:-1.0e1|7:1.0e1|8:1.0e1|9:-1.0e1|10:6.2831853071796|11:0.0|12:6.2831853071796e-3|"
-            "13:0|14:0|30:0|31:0|32:0|36:0|37:6.2831853071796|38:0.0|39:6.2831853071796e-3|40:0.0|41:0.0|43:0|"
-            "44:1.0|53:1|42:10406866|45:128|46:0|47:2|48:0|49:0.0|50:0|51:0|52:0|54:0.0|55:0.0|56:0.0|57:0.0|"
-            "58:0.0|59:1.2e1|60:1.2e1|61:0.0|62:0|");
+  EXPECT_EQ(
+      records('O', {1, 2, 3, 4, 5, 6, 7, 8, 9}),
+      "0:0|22:0|23:0|15:4|16:0|17:0|18:0|19:1|20:1|21:2|24:0|25:0|26:0|27:1|28:1|29:1|33:0.0|34:1|35:0|"
+      "2:1|3:1|4:0|5:0|6:-1.0e1|7:1.0e1|8:1.0e1|9:-1.0e1|10:6.2831853071796|11:0.0|12:6.2831853071796e-3|"
+      "13:0|14:0|30:0|31:0|32:0|36:0|37:6.2831853071796|38:0.0|39:6.2831853071796e-3|40:0.0|41:0.0|43:0|"
+      "44:1.0|53:1|42:10406866|45:128|46:0|47:2|48:0|49:0.0|50:0|51:0|52:0|54:0.0|55:0.0|56:0.0|57:0.0|"
+      "58:0.0|59:1.2e1|60:1.2e1|61:0.0|62:0|");
 }
 
 TEST_F(state_file, each_item_has_its_clear_action) {
@@ -175,11 +176,13 @@ TEST_F(state_file, functions_and_expressions_are_token_lists) {
   eval("x->f9()");
   plot_slot(3, 5).tokens[0] = 40000;
   plot_slot(3, 5).count = 1;
-  EXPECT_EQ(records('E', {5}), "0:" + [] {
-    std::string tokens;
-    for (int i = 0; i < plot_slot(0, 0).count; ++i) tokens += std::to_string(plot_slot(0, 0).tokens[i]) + ",";
-    return tokens;
-  }() + "|23:40000,|");
+  EXPECT_EQ(
+      records('E', {5}), "0:" + [] {
+        std::string tokens;
+        for (int i = 0; i < plot_slot(0, 0).count; ++i)
+          tokens += std::to_string(plot_slot(0, 0).tokens[i]) + ",";
+        return tokens;
+      }() + "|23:40000,|");
   EXPECT_EQ(records('P', {8}).substr(0, 2), "8:");
   EXPECT_EQ(records('K', {7}).substr(records('K', {7}).find("|1:") + 1, 10), "1:33,36,34");
   EXPECT_NE(records('D'), "");
@@ -252,8 +255,9 @@ TEST_F(state_file, numbers_come_back) {
 
 TEST_F(state_file, indices_behind_a_store_are_ignored) {
   const std::string before = state_text();
-  load("R: 90:1|I: 1000:1|X: 999:1|Y: 1000:1|E: 24:33,|K: 20:33,|P: 9:33,|M: 11:0:0:1|M: 0:30:0:1|M: 0:0:30:1|"
-       "L: 11:0:1,1,|L: 0:999:1,1,|W: 11:x|O: 1:1|O: 63:1|O: 1000:1|A: 12:0");
+  load(
+      "R: 90:1|I: 1000:1|X: 999:1|Y: 1000:1|E: 24:33,|K: 20:33,|P: 9:33,|M: 11:0:0:1|M: 0:30:0:1|M: 0:0:30:1|"
+      "L: 11:0:1,1,|L: 0:999:1,1,|W: 11:x|O: 1:1|O: 63:1|O: 1000:1|A: 12:0");
   EXPECT_EQ(state_text(), before);
   EXPECT_FALSE(errors.error_flag);
 }
@@ -329,8 +333,9 @@ TEST_F(state_file, a_string_of_a_thousand_characters_is_told) {
 }
 
 TEST_F(state_file, options_are_bounded) {
-  load("O: 15:11|O: 16:4|O: 17:2|O: 18:3|O: 19:8|O: 20:3|O: 21:4|O: 24:2|O: 4:4|O: 5:9|O: 2:7|O: 3:-1|O: 43:3|"
-       "O: 47:101|O: 48:3|O: 53:2|O: 46:11|O: 51:11|O: 0:1000|O: 22:2|O: 23:4|O: 30:6|O: 36:-1");
+  load(
+      "O: 15:11|O: 16:4|O: 17:2|O: 18:3|O: 19:8|O: 20:3|O: 21:4|O: 24:2|O: 4:4|O: 5:9|O: 2:7|O: 3:-1|O: 43:3|"
+      "O: 47:101|O: 48:3|O: 53:2|O: 46:11|O: 51:11|O: 0:1000|O: 22:2|O: 23:4|O: 30:6|O: 36:-1");
   EXPECT_EQ(settings.decimalDigits, 4);
   EXPECT_EQ(settings.numberFormat, 0);
   EXPECT_EQ(settings.decimalMark, 0);
@@ -374,6 +379,17 @@ TEST_F(state_file, colours_are_written_and_not_read) {
   EXPECT_EQ(settings.brightness, 128);
   EXPECT_EQ(state.dynamic_mode, MATRIX_MODE);
   EXPECT_EQ(settings.decimalDigits, 9);
+}
+
+TEST_F(state_file, the_fourth_tab_leads_to_a_screen_of_its_own) {
+  load("O: 47:7");
+  EXPECT_EQ(state.dynamic_mode, LIST_MODE);
+  load("O: 47:0");
+  EXPECT_EQ(state.dynamic_mode, BASE_MODE);
+  for (const char* elsewhere : {"O: 47:1", "O: 47:5", "O: 47:57"}) {
+    load(elsewhere);
+    EXPECT_EQ(state.dynamic_mode, STATS_MODE);
+  }
 }
 
 TEST_F(state_file, money_values_come_back_and_the_undefined_one_does_not) {
@@ -534,6 +550,14 @@ TEST_F(state_file, a_damaged_drawing_is_told) {
   EXPECT_EQ(memory_array[0].re, 1.0);
 }
 
+TEST_F(state_file, nothing_is_read_behind_a_drawing) {
+  drawing.drawing_used = true;
+  drawing_bitmap().set_pixel(0, 0, BLACK);
+  load_bytes(saved({6}) + "\r\nR: 0:1.0\r\n" + std::string(1200000, 'x') + "\r\nR: 1:1.0\r\n");
+  EXPECT_EQ(memory_array[0].re, 0.0);
+  EXPECT_EQ(memory_array[1].re, 0.0);
+}
+
 TEST_F(state_file, a_drawing_is_saved_where_its_work_file_can_not_be) {
   drawing.drawing_used = true;
   drawing_bitmap().set_pixel(3, 4, BLACK);
@@ -557,7 +581,8 @@ TEST_F(state_file, everything_comes_back_as_it_was) {
   load_state(path().c_str());
   const std::string after = state_text();
   const auto difference = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
-  EXPECT_TRUE(after == before) << std::string(difference.second, std::min(difference.second + 80, after.end()));
+  EXPECT_TRUE(after == before) << std::string(difference.second,
+                                              std::min(difference.second + 80, after.end()));
 }
 
 // --- Dialogs and the function
@@ -568,15 +593,17 @@ TEST_F(state_file, the_dialog_checks_what_holds_data) {
   std::string shown;
   platform_.dialog_answers.push_back([&](TDialog& dialog) {
     for (int i = 0; i < 9; ++i) shown += dialog[i].label + (dialog[i].checked ? "+ " : "- ");
-    EXPECT_GE(find_control(dialog, "Note: checked items will write over or clear current data when loaded."), 0);
+    EXPECT_GE(find_control(dialog, "Note: checked items will write over or clear current data when loaded."),
+              0);
     set_checked(dialog, find_control(dialog, "String Variables"), false);
     accept_dialog(dialog);
   });
   EXPECT_TRUE(select_items_to_save());
   EXPECT_EQ(platform_.dialogs.back(), "217 Select Items to Save");
-  EXPECT_EQ(shown,
-            "Real/Complex Variables+ Stats Data- List Variables- Matrix Variables- Plot Data (setup/functions)- "
-            "Drawing Data- Expression Entries+ Program Functions- String Variables+ ");
+  EXPECT_EQ(
+      shown,
+      "Real/Complex Variables+ Stats Data- List Variables- Matrix Variables- Plot Data (setup/functions)- "
+      "Drawing Data- Expression Entries+ Program Functions- String Variables+ ");
   EXPECT_TRUE(save_items.checked[SAVE_VARIABLES]);
   EXPECT_FALSE(save_items.checked[SAVE_STRINGS]);
 }

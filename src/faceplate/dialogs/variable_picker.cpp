@@ -67,7 +67,8 @@ constexpr TGroup groups[] = {
 };
 
 bool holds(const TGroup& group, int selected) {
-  return selected == group.answer || (selected >= group.first_slot && selected < group.first_slot + group.count);
+  return selected == group.answer ||
+         (selected >= group.first_slot && selected < group.first_slot + group.count);
 }
 
 int group_of(int selected) {

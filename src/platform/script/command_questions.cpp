@@ -14,6 +14,8 @@
 #include "platform/script/arguments.h"
 #include "platform/script/commands.h"
 #include "platform/script/script.h"
+#include "programs/program.h"
+#include "programs/statement_text.h"
 
 namespace zephyl {
 
@@ -152,6 +154,7 @@ bool obey_shifts(TScript& script, const std::string&) {
 }
 
 bool obey_program(TScript& script, const std::string&) {
+  for (int i = 0; i < program.statement_count; ++i) script.answer(statement_text(i, NAMES_IN_WORDS));
   script.answer(".");
   return true;
 }
