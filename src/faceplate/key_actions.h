@@ -32,6 +32,10 @@ int recall_variable(int key);
 int store_variable(int key);
 int choose_items_to_clear(int key);
 
+// The catalogs: the token that was chosen goes into the expression.
+int enter_catalog_function(int key);
+int enter_system_variable(int key);
+
 // The run key; in program edit it saves the program first.
 int run_or_stop_program(int key);
 

@@ -11,6 +11,8 @@
 #include "persistence/conversion_dialog.h"
 #include "platform/dialog.h"
 #include "platform/platform.h"
+#include "tools/dialogs/money_dialogs.h"
+#include "tools/stopwatch.h"
 
 namespace zephyl {
 
@@ -63,7 +65,7 @@ constexpr TMenuRow menu_items[] = {
     {"MATRIX Mode", "Linear algebra matrix computations.", ON_ERROR, MATRIX_MODE, nullptr},
     {"PROG Mode", "Create and edit programs.", ON_ERROR, PROGRAM_EDIT_MODE, nullptr},
     {"PLOT Mode", "Function, polar, parametric and 3D plotting.", ON_ERROR, PLOT_MODE, nullptr},
-    {"TVM Solver", "Solve time value of money problems.", ON_ERROR | RUNNING, NO_MODE, nullptr},
+    {"TVM Solver", "Solve time value of money problems.", ON_ERROR | RUNNING, NO_MODE, show_tvm_solver},
     {"Constants", "Scientific constants.", ON_ERROR | RUNNING_UNPAUSED, NO_MODE, constants},
     {"Conversions", "Convert from one unit to another.", ON_ERROR | RUNNING_UNPAUSED, NO_MODE, conversions},
     {"Periodic Table", "View the periodic table of the elements.", ON_ERROR | RUNNING_UNPAUSED, NO_MODE,
@@ -72,7 +74,7 @@ constexpr TMenuRow menu_items[] = {
      "Sample plots for each plot type (function, polar, parametric, 3D cartesian, 3D cylindrical, 3D "
      "spherical).",
      ON_ERROR, NO_MODE, sample_plots},
-    {"Stopwatch", "Time events.", ON_ERROR | RUNNING, NO_MODE, nullptr},
+    {"Stopwatch", "Time events.", ON_ERROR | RUNNING, NO_MODE, show_stopwatch},
     {"View Help File", "View the help file.", FREE, NO_MODE, show_help},
 };
 
