@@ -14,6 +14,7 @@
 #include "faceplate/key_path.h"
 #include "faceplate/modes.h"
 #include "faceplate/typed_keys.h"
+#include "support/golden.h"
 
 namespace zephyl {
 namespace {
@@ -44,7 +45,7 @@ class alpha : public face {
 };
 
 TEST_F(alpha, the_orange_key_8_writes_a_string) {
-  tap_keys({0, 24});
+  tap_keys({1, 24});
   EXPECT_TRUE(state.alpha_active);
   EXPECT_EQ(alpha_entry.kind, ALPHA_STRING);
   EXPECT_EQ(shifts(), "");
@@ -56,18 +57,18 @@ TEST_F(alpha, the_orange_key_8_writes_a_string) {
 TEST_F(alpha, a_string_goes_in_at_the_cursor) {
   type("12");
   arrow(ARROW_LEFT);
-  tap_keys({0, 24});
+  tap_keys({1, 24});
   type("a\r");
   EXPECT_EQ(entry(), "1\"a\"2");
 }
 
 TEST_F(alpha, neither_starts_on_an_error_nor_while_a_program_runs) {
   eval("1/0");
-  tap_keys({0, 24});
+  tap_keys({1, 24});
   EXPECT_FALSE(state.alpha_active);
   tap_key(27);
   state.program_running = true;
-  tap_keys({0, 24});
+  tap_keys({1, 24});
   EXPECT_FALSE(state.alpha_active);
 }
 
@@ -309,7 +310,7 @@ TEST_F(alpha, a_text_that_nobody_takes_is_not_lost) {
 
 TEST_F(alpha, a_string_that_does_not_fit_stays_up) {
   type(std::string(95, '1'));
-  tap_keys({0, 24});
+  tap_keys({1, 24});
   type("abcdef\r");
   EXPECT_EQ(message(), "Limit | Reached expression size limit");
   EXPECT_TRUE(state.alpha_active);
@@ -419,6 +420,19 @@ TEST_F(alpha, the_symbols_of_a_program_name_are_fewer) {
   start(ALPHA_STRING);
   tap_key(SYMBOLS);
   EXPECT_NE(picture(), few);
+}
+
+TEST_F(alpha, looks_as_it_should) {
+  start(ALPHA_STRING);
+  type("Zephyl is a calculator");
+  expect_picture("alpha_letters", screen());
+  tap_keys({SHIFT, SYMBOLS});
+  expect_picture("alpha_symbols", screen());
+  state.calcMode = PROGRAM_EDIT_MODE;
+  start(ALPHA_NEW_PROGRAM);
+  tap_key(SYMBOLS);
+  paint();
+  expect_picture("alpha_program_symbols", screen());
 }
 
 TEST_F(alpha, the_end_of_a_long_text_is_in_view) {

@@ -12,7 +12,6 @@
 #include "engine/state.h"
 #include "faceplate/face.h"
 #include "faceplate/key_maps.h"
-#include "faceplate/later_keys.h"
 #include "faceplate/modes.h"
 #include "plot/plot_variables.h"
 #include "plot/zoom_locks.h"
@@ -238,6 +237,15 @@ TEST_F(keys_stats, list_summary_and_clearing_have_their_dialogs) {
   tap_keys({2, BLUE_KEY, 23, BLUE_KEY, AC_KEY});
   EXPECT_EQ(platform_.dialogs,
             (std::vector<std::string>{"169 Stats List", "188 Stats Summary", "218 Select Items to Clear"}));
+}
+
+TEST_F(keys_stats, plots_have_their_dialog) {
+  tap_keys({BLUE_KEY, 24});
+  EXPECT_TRUE(platform_.dialogs.empty() || platform_.dialogs[0] == "193 Select Plot");
+  add_stats_value(1.0);
+  platform_.dialogs.clear();
+  tap_keys({BLUE_KEY, 24});
+  EXPECT_EQ(platform_.dialogs, std::vector<std::string>{"193 Select Plot"});
 }
 
 TEST_F(keys_stats, blue_delete_deletes_nothing) {
@@ -474,23 +482,6 @@ TEST_F(keys_of_all_modes, each_map_names_the_rows_of_its_table) {
   for (const auto& row : rows) EXPECT_EQ(row.map.rows[row.map.count - 1].last + 1, row.table.count);
 }
 
-TEST_F(keys_of_all_modes, a_key_without_its_subsystem_changes_nothing) {
-  for (int mode = BASE_MODE; mode <= LIST_MODE; ++mode)
-    for (const bool blue : {false, true}) {
-      state.calcMode = mode;
-      for (int key = 0; key < shown_key_table().count; ++key) {
-        if (!is_later_key(mode, key, blue ? MEANING_BLUE : MEANING_PLAIN)) continue;
-        state.blue_shift = blue;
-        tap_key(key);
-        EXPECT_EQ(state.calcMode, mode) << "key " << key;
-        EXPECT_EQ(codes(), "") << "mode " << mode << " key " << key;
-        EXPECT_EQ(shifts(), "");
-      }
-    }
-  EXPECT_TRUE(platform_.dialogs.empty());
-  EXPECT_EQ(message(), "none");
-}
-
 TEST_F(keys_of_all_modes, shifts_stay_until_they_are_used) {
   tap_key(1);
   set_mode(BASE_MODE, false);
@@ -506,6 +497,25 @@ TEST_F(keys_of_all_modes, the_blue_shift_of_program_edit_is_on_key_1) {
   EXPECT_EQ(shifts(), "blue ");
   tap_key(1);
   EXPECT_EQ(shifts(), "");
+}
+
+TEST_F(keys_of_all_modes, the_cells_of_the_periodic_screen_tell_their_elements) {
+  show_periodic_screen();
+  tap_keys({1, 2, 110});
+  EXPECT_EQ(platform_.dialogs, (std::vector<std::string>{"203 Element Data Table", "177 Element Information",
+                                                         "177 Element Information"}));
+  EXPECT_EQ(state.calcMode, PERIODIC_MODE);
+}
+
+TEST_F(keys_of_all_modes, a_fact_of_an_element_goes_into_the_expression) {
+  show_periodic_screen();
+  platform_.dialog_answers.push_back([](TDialog& dialog) {
+    EXPECT_TRUE(choose_row(dialog, 0, 2));
+    press_button(dialog, find_control(dialog, "Select Constant"));
+  });
+  tap_key(2 + 25);
+  EXPECT_EQ(state.calcMode, COMP_MODE);
+  EXPECT_EQ(entry(), "(26)");
 }
 
 TEST_F(keys_of_all_modes, the_last_row_of_the_periodic_screen_is_dead) {

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <fstream>
 
+#include "manual/manual_pictures.h"
 #include "scripts/transcript.h"
 
 namespace zephyl {
@@ -11,6 +12,7 @@ namespace {
 
 const std::string FENCE = "```";
 const std::string LANGUAGE = FENCE + "zephyl";
+const std::string PROGRAM = LANGUAGE + " program ";
 const std::string ERROR_MARK = "error: ";
 
 bool begins_with(const std::string& text, const std::string& beginning) {
@@ -25,6 +27,8 @@ class TPageReader {
     ++number_;
     if (begins_with(line, FENCE))
       read_fence(line);
+    else if (in_program_)
+      page_.programs.back().lines.push_back(line);
     else if (in_examples_)
       read_example_line(line);
   }
@@ -42,8 +46,10 @@ class TPageReader {
   void read_fence(const std::string& line) {
     const bool opens = !in_block_;
     in_block_ = opens;
-    in_examples_ = opens && begins_with(line, LANGUAGE);
+    in_program_ = opens && begins_with(line, PROGRAM);
+    in_examples_ = opens && !in_program_ && begins_with(line, LANGUAGE);
     answer_open_ = false;
+    if (in_program_) page_.programs.push_back({line.substr(PROGRAM.size()), {}});
     if (!in_examples_) return;
     if (line == LANGUAGE)
       page_.sessions.emplace_back();
@@ -70,6 +76,7 @@ class TPageReader {
   TManualPage page_;
   int number_ = 0;
   bool in_block_ = false;
+  bool in_program_ = false;
   bool in_examples_ = false;
   bool answer_open_ = false;
 };
@@ -89,11 +96,16 @@ std::string without_number(const std::string& answer) {
   return numbered ? answer.substr(blank + 1) : answer;
 }
 
+std::string command_of(const TManualExample& example, bool keep_pictures) {
+  if (!example.is_command) return "eval " + example.text;
+  return makes_picture(example.text) ? picture_command(example.text, keep_pictures) : example.text;
+}
+
 // An entry becomes two exchanges, its evaluation and the question for the error; a command is one.
-TTranscript transcript_of(const TManualSession& session) {
+TTranscript transcript_of(const TManualSession& session, bool keep_pictures) {
   TTranscript transcript;
   for (const TManualExample& example : session) {
-    const std::string command = example.is_command ? example.text : "eval " + example.text;
+    const std::string command = command_of(example, keep_pictures);
     transcript.exchanges.push_back({{}, example.line, command, example.shown, {}});
     if (!example.is_command) transcript.exchanges.push_back({{}, example.line, "error", {}, {}});
   }
@@ -126,13 +138,19 @@ TManualPage read_manual_page(const std::string& path) {
   return reader.finish();
 }
 
-int count_failing_examples(const std::string& path, const TManualSession& session) {
-  TTranscript transcript = transcript_of(session);
+int count_failing_examples(const std::string& path, const TManualSession& session,
+                           const std::vector<TTranscriptProgram>& programs, bool keep_pictures) {
+  TTranscript transcript = transcript_of(session, keep_pictures);
+  transcript.programs = programs;
   if (!run_transcript(transcript)) return static_cast<int>(session.size());
   int failing = 0;
   auto exchange = transcript.exchanges.cbegin();
   for (const TManualExample& example : session) {
-    const std::vector<std::string> answered = (exchange++)->answered;
+    std::vector<std::string> answered = (exchange++)->answered;
+    if (example.is_command && makes_picture(example.text) && answered.empty() && !keep_pictures) {
+      const std::string fault = picture_fault(example.text);
+      if (!fault.empty()) answered.push_back(fault);
+    }
     std::string error;
     if (!example.is_command && !exchange->answered.empty()) error = exchange->answered[0];
     if (!example.is_command) ++exchange;
