@@ -323,7 +323,7 @@ TEST_F(colour_and_skin, opens_on_the_first_row_for_a_skin_out_of_range) {
 }
 
 std::vector<TColour> sample_of(const TDialog& dialog) {
-  const TSurface& picture = control(dialog, "Sample Text").picture.at(0);
+  const TSurface& picture = control(dialog, "Text Background").picture.at(0);
   return {picture.pixels(), picture.pixels() + picture.width() * picture.height()};
 }
 
