@@ -7,7 +7,6 @@
 #include "engine/memory.h"
 #include "engine/state.h"
 #include "faceplate/face.h"
-#include "faceplate/later_keys.h"
 #include "plot/plot_variables.h"
 
 namespace zephyl {
@@ -237,20 +236,6 @@ TEST_F(keys_comp, at_a_prompt_tokens_go_in) {
   state.program_running = state.at_prompt = true;
   tap_keys({33, 34, DELETE_KEY});
   EXPECT_EQ(codes(), "33");
-}
-
-TEST_F(keys_comp, a_key_without_its_subsystem_changes_nothing) {
-  tap_key(33);
-  for (int key = 0; key < calculator_keys.count; ++key)
-    for (const TKeyMeaning meaning : {MEANING_PLAIN, MEANING_BLUE, MEANING_ORANGE}) {
-      if (!is_later_key(COMP_MODE, key, meaning)) continue;
-      if (meaning != MEANING_PLAIN) tap_key(meaning == MEANING_BLUE ? BLUE_KEY : ORANGE_KEY);
-      tap_key(key);
-      EXPECT_EQ(codes(), "33") << "key " << key;
-      EXPECT_EQ(state.calcMode, COMP_MODE);
-      EXPECT_EQ(shifts(), "");
-    }
-  EXPECT_EQ(message(), "none");
 }
 
 TEST_F(keys_comp, a_number_that_is_no_key_does_nothing) {
