@@ -33,4 +33,7 @@ comp() { printf 'eval 2->angleMode\neval 2+sin(30)*sqRt 2\n'; png "comp_$1"; }
 
 { skin Light; comp light; menu 47 "Periodic Table"; png periodic; } | draw
 { skin Light; sample 47 Polar; png polar; } | draw
+{ skin Light
+  printf 'key 44\nchoose "Program Type" "Built-in Program"\nchoose #0 "Quadratic Equation"\npress OK\n'; png program
+} | draw
 { skin Light; printf 'key 1\nkey 24\nchar Hello'; printf '\n'; png text; } | draw

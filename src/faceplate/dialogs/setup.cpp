@@ -61,9 +61,9 @@ TSetup::TSetup() {
   add_formats();
   digits_ = dialog_.add(combo_control("Decimal Digits:", digit_rows(), settings.decimalDigits));
   mark_ = dialog_.add(combo_control("Decimal Mark:", {"Dot(.)", "Comma(,)"}, settings.decimalMark));
-  complex_ = dialog_.add(combo_control("Complex Format:",
-                                       {"Real only", "a+bi (rectangular)", "re^((theta)i) (polar)"},
-                                       settings.complexFormat));
+  complex_ = dialog_.add(
+      combo_control("Complex Format:", {"Real only", "a+bi (rectangular)", "re^((theta)i) (polar)"},
+                    settings.complexFormat));
   click_ = dialog_.add(check_control("Key Click?", settings.keyClick != 0));
   add_button("Display Color/Skin", [](TDialog&) { select_colour_and_skin(); });
   add_button("Edit Constants", close_for_constants);
