@@ -10,6 +10,7 @@
 #include "faceplate/indicators.h"
 #include "faceplate/resources.h"
 #include "faceplate/result_line_view.h"
+#include "faceplate/table_screens.h"
 #include "faceplate/title.h"
 #include "plot/plot.h"
 #include "plot/plot_variables.h"
@@ -144,16 +145,22 @@ void paint_plot(TSurface& surface) {
   surface.blit(PLOT_LEFT, PLOT_TOP, PLOT_WIDTH, PLOT_HEIGHT, shown_plot(), 0, 0);
 }
 
-void paint_table(TSurface& surface, const char* background, const char* front) {
+void paint_table(TSurface& surface, const char* background, const char* front,
+                 void (*paint_cells)(TSurface& surface)) {
   draw_backdrop(surface, skinned_name(background), 0, 0);
   draw_picture(surface, skinned_name(front), 0, 0);
+  paint_cells(surface);
   paint_tabs(surface);
   surface.fill(DISPLAY_RECT, display_colour());
   paint_lines(surface);
 }
 
-void paint_matrix(TSurface& surface) { paint_table(surface, "MATRIX_BACKGROUND_GIF", "matrix_gif"); }
-void paint_list(TSurface& surface) { paint_table(surface, "LIST_BACKGROUND_GIF", "list_gif"); }
+void paint_matrix(TSurface& surface) {
+  paint_table(surface, "MATRIX_BACKGROUND_GIF", "matrix_gif", paint_matrix_table);
+}
+void paint_list(TSurface& surface) {
+  paint_table(surface, "LIST_BACKGROUND_GIF", "list_gif", paint_list_table);
+}
 
 // By TCalcMode.
 constexpr void (*screen_painters[])(TSurface& surface) = {paint_base,         paint_comp,     paint_stats,

@@ -14,6 +14,7 @@
 #include "faceplate/key_path.h"
 #include "faceplate/modes.h"
 #include "faceplate/typed_keys.h"
+#include "support/golden.h"
 
 namespace zephyl {
 namespace {
@@ -419,6 +420,19 @@ TEST_F(alpha, the_symbols_of_a_program_name_are_fewer) {
   start(ALPHA_STRING);
   tap_key(SYMBOLS);
   EXPECT_NE(picture(), few);
+}
+
+TEST_F(alpha, looks_as_it_should) {
+  start(ALPHA_STRING);
+  type("Zephyl is a calculator");
+  expect_picture("alpha_letters", screen());
+  tap_keys({SHIFT, SYMBOLS});
+  expect_picture("alpha_symbols", screen());
+  state.calcMode = PROGRAM_EDIT_MODE;
+  start(ALPHA_NEW_PROGRAM);
+  tap_key(SYMBOLS);
+  paint();
+  expect_picture("alpha_program_symbols", screen());
 }
 
 TEST_F(alpha, the_end_of_a_long_text_is_in_view) {

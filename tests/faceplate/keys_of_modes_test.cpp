@@ -240,6 +240,15 @@ TEST_F(keys_stats, list_summary_and_clearing_have_their_dialogs) {
             (std::vector<std::string>{"169 Stats List", "188 Stats Summary", "218 Select Items to Clear"}));
 }
 
+TEST_F(keys_stats, plots_have_their_dialog) {
+  tap_keys({BLUE_KEY, 24});
+  EXPECT_TRUE(platform_.dialogs.empty() || platform_.dialogs[0] == "193 Select Plot");
+  add_stats_value(1.0);
+  platform_.dialogs.clear();
+  tap_keys({BLUE_KEY, 24});
+  EXPECT_EQ(platform_.dialogs, std::vector<std::string>{"193 Select Plot"});
+}
+
 TEST_F(keys_stats, blue_delete_deletes_nothing) {
   type("12");
   tap_keys({BLUE_KEY, DELETE_KEY});
@@ -509,6 +518,25 @@ TEST_F(keys_of_all_modes, the_blue_shift_of_program_edit_is_on_key_1) {
   EXPECT_EQ(shifts(), "blue ");
   tap_key(1);
   EXPECT_EQ(shifts(), "");
+}
+
+TEST_F(keys_of_all_modes, the_cells_of_the_periodic_screen_tell_their_elements) {
+  show_periodic_screen();
+  tap_keys({1, 2, 110});
+  EXPECT_EQ(platform_.dialogs, (std::vector<std::string>{"203 Element Data Table", "177 Element Information",
+                                                         "177 Element Information"}));
+  EXPECT_EQ(state.calcMode, PERIODIC_MODE);
+}
+
+TEST_F(keys_of_all_modes, a_fact_of_an_element_goes_into_the_expression) {
+  show_periodic_screen();
+  platform_.dialog_answers.push_back([](TDialog& dialog) {
+    EXPECT_TRUE(choose_row(dialog, 0, 2));
+    press_button(dialog, find_control(dialog, "Select Constant"));
+  });
+  tap_key(2 + 25);
+  EXPECT_EQ(state.calcMode, COMP_MODE);
+  EXPECT_EQ(entry(), "(26)");
 }
 
 TEST_F(keys_of_all_modes, the_last_row_of_the_periodic_screen_is_dead) {

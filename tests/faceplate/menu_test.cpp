@@ -159,6 +159,13 @@ TEST_F(menu, some_tools_work_at_a_pause) {
   }
 }
 
+TEST_F(menu, opens_its_tools) {
+  choose(7);
+  choose(12);
+  EXPECT_EQ(platform_.dialogs,
+            (std::vector<std::string>{"200 Menu", "206 Time Value of Money Solver", "200 Menu", "205 Stopwatch"}));
+}
+
 TEST_F(menu, a_program_that_runs_does_not_go_into_edit) {
   state.program_running = true;
   choose(5);
