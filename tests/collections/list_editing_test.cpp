@@ -248,7 +248,7 @@ TEST_F(list_calculator, a_stored_list_that_is_given_out_becomes_global) {
   EXPECT_EQ(made_global, "100 109 ");
   eval("outList({1,2})");
   eval("outList((L_Ans))");
-  EXPECT_EQ(made_global, "100 109 ") << "lists in flight and the answer belong to no program";
+  EXPECT_EQ(made_global, "100 109 -1 -1 ") << "lists in flight and the answer are no variables";
 }
 
 }  // namespace

@@ -89,9 +89,9 @@ TEST_F(pictures, a_decimal_comma) {
 }
 
 TEST_F(pictures, a_running_program) {
-  state.program_running = true;
+  state.program_running = run.key_run = true;
   expect_in_every_skin("comp_running");
-  state.program_running = false;
+  state.program_running = run.key_run = false;
 }
 
 TEST_F(pictures, brightness_and_colour_of_the_display) {
