@@ -6,6 +6,7 @@
 #include "engine/state.h"
 #include "faceplate/face.h"
 #include "plot/plot_variables.h"
+#include "programs/run_state.h"
 #include "support/golden.h"
 
 namespace zephyl {
