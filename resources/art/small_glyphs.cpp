@@ -11,7 +11,7 @@ namespace art {
 namespace {
 
 constexpr int SMALL_HEIGHT = 9;
-constexpr int SMALL_DIGIT_WIDTH = 6;
+constexpr int SMALL_DIGIT_WIDTH = 5;
 constexpr int LEAST_WORD_WIDTH = 18;
 
 TMask set_small(const std::string& text, int right, int least_width = 0) {

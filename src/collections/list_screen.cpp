@@ -33,6 +33,11 @@ void move_on(const ListRecord& list) {
 
 void scroll_list(int rows) { top_row() = std::clamp(top_row() + rows, 0, LAST_TOP_ROW); }
 
+int list_cursor() {
+  if (cursor() > shown_list().last) cursor() = 0;
+  return cursor();
+}
+
 void choose_list_line(int line) {
   const int row = top_row() + line;
   if (shown_list().defined && row <= shown_list().last) cursor() = row;
@@ -58,9 +63,8 @@ bool enter_answer_into_list() {
   }
   ListRecord& list = shown_list();
   if (!list.defined) return false;
-  if (cursor() > list.last) cursor() = 0;
   about_to_change();
-  list.elements[cursor()] = answers.ans;
+  list.elements[list_cursor()] = answers.ans;
   move_on(list);
   return true;
 }

@@ -6,6 +6,9 @@ namespace zephyl {
 // Moves the view by rows, down if positive; it ends at the first and at the last screenful.
 void scroll_list(int rows);
 
+// The element at the cursor; one past the end of the list goes back to the first.
+int list_cursor();
+
 // A tap on a line of the screen, from 0: the cursor goes there if the list reaches so far.
 void choose_list_line(int line);
 

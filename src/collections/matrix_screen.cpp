@@ -49,17 +49,19 @@ void move_on(const MatrixRecord& matrix) {
 
 bool accepts_answer() { return !aggregate_answer() && is_real(answers.ans); }
 
-void keep_cursor_inside(const MatrixRecord& matrix) {
-  if (cursor_row() <= matrix.last_row && cursor_column() <= matrix.last_col) return;
-  cursor_row() = cursor_column() = 0;
-}
-
 }  // namespace
 
 void scroll_matrix_rows(int rows) { top_row() = std::clamp(top_row() + rows, 0, LAST_TOP_ROW); }
 
 void scroll_matrix_columns(int columns) {
   left_column() = std::clamp(left_column() + columns, 0, LAST_LEFT_COLUMN);
+}
+
+void matrix_cursor(int& row, int& column) {
+  const MatrixRecord& matrix = shown_matrix();
+  if (cursor_row() > matrix.last_row || cursor_column() > matrix.last_col) cursor_row() = cursor_column() = 0;
+  row = cursor_row();
+  column = cursor_column();
 }
 
 void choose_matrix_cell(int line, int column) {
@@ -93,9 +95,10 @@ bool enter_answer_into_matrix() {
   }
   MatrixRecord& matrix = shown_matrix();
   if (!matrix.defined) return false;
-  keep_cursor_inside(matrix);
+  int row, column;
+  matrix_cursor(row, column);
   about_to_change();
-  matrix.cells[cursor_row()][cursor_column()] = answers.ans.re;
+  matrix.cells[row][column] = answers.ans.re;
   move_on(matrix);
   return true;
 }

@@ -11,6 +11,9 @@ constexpr int MATRIX_SCREEN_COLUMNS = 5;
 void scroll_matrix_rows(int rows);
 void scroll_matrix_columns(int columns);
 
+// The cell at the cursor; one past the edge of the matrix goes back to the first.
+void matrix_cursor(int& row, int& column);
+
 // A tap on a cell of the screen, from 0: the cursor goes there if the matrix reaches so far.
 void choose_matrix_cell(int line, int column);
 

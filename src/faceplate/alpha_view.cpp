@@ -19,10 +19,10 @@ constexpr TPoint LABEL = {13, 65};
 constexpr char CURSOR = '_';
 
 // By TAlphaPrompt.
-constexpr const char* labels[] = {
-    "alpha_program_name",  "alpha_program_name",  "alpha_input_prompt", "alpha_output_text_label",
-    "alpha_output_text",   "alpha_input_prompt",  "alpha_menu_item",    "alpha_menu_title",
-    "alpha_constant_name", "alpha_constant_unit", "alpha_program_error", "alpha_string_text"};
+constexpr const char* labels[] = {"alpha_program_name",      "alpha_program_name",  "alpha_input_prompt",
+                                  "alpha_output_text_label", "alpha_output_text",   "alpha_input_prompt",
+                                  "alpha_menu_item",         "alpha_menu_title",    "alpha_constant_name",
+                                  "alpha_constant_unit",     "alpha_program_error", "alpha_string_text"};
 static_assert(sizeof labels / sizeof labels[0] == ALPHA_PROMPT_COUNT);
 
 // Of what a program may be named with.

@@ -8,14 +8,17 @@
 #include "engine/faults.h"
 #include "engine/operation_table.h"
 #include "engine/state.h"
+#include "faceplate/dialogs/remembered.h"
 #include "faceplate/display.h"
 #include "faceplate/entry_line_view.h"
 #include "faceplate/key_feedback.h"
 #include "faceplate/key_path.h"
+#include "faceplate/program_list.h"
 #include "faceplate/screens.h"
 #include "faceplate/title.h"
 #include "numerics/random.h"
 #include "persistence/constants.h"
+#include "persistence/settings.h"
 #include "platform/platform.h"
 #include "plot/drawing.h"
 #include "plot/plot.h"
@@ -40,6 +43,7 @@ void reset_all() {
   reset_plot();
   reset_drawing();
   reset_tvm_state();
+  remembered = {};
   forget_key_feedback();
 }
 
@@ -51,6 +55,7 @@ void on_start() {
   clear_faults();
   check_operation_array();
   seed_random(0.0);
+  load_settings();
   clear_calculator(true);
   check_function_arguments();
   load_units_and_constants(false);
@@ -63,11 +68,13 @@ void on_start() {
 void on_stop() {
   if (state.calcMode == PROGRAM_EDIT_MODE) save_program();
   forget_key_feedback();
+  save_settings();
 }
 
 void on_pen_down(int x, int y) {
   state.swallow_up = false;
   if (!state.alpha_active) cursor_to_tap(x, y);
+  if (!state.alpha_active && state.calcMode == PROGRAM_EDIT_MODE) select_tapped_statement(x, y);
   if (!state.alpha_active && plot_pen_down(x, y)) return;
   handle_faceplate_input(x, y, -1, -1);
   state.drag_in_progress = false;

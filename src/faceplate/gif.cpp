@@ -171,8 +171,8 @@ void TStrip::copy_row(TColour* to, const std::uint8_t* from, int first, int last
 void TStrip::copy_paired_row(TColour* to, const std::uint8_t* from, int first, int last) const {
   for (int x = first; x < last; ++x) {
     const int v = from[2 * x] + 256 * from[2 * x + 1];
+    // None of these is pure magenta: nothing is transparent.
     const TColour colour = rgb((v & 31) << 3, ((v >> 5) & 63) << 2, (v >> 8) & 248);
-    if (transparent_ && colour == TRANSPARENT_COLOUR) continue;
     to[x_ + x] = adjust_ ? adjusted_colour(colour) : colour;
   }
 }
@@ -324,12 +324,16 @@ TGifResult with_message(TGifResult result) {
 
 int brightened(int channel, int shift) { return std::clamp(channel + shift, 0, 255); }
 
+// Half of what the brightness differs from the neutral one. The settings may hold any number: far out every colour is
+// black or white.
+int brightness_shift() { return (std::clamp(settings.brightness, -1024, 1024) - 128) >> 1; }
+
 }  // namespace
 
 TColour adjusted_colour(TColour colour) {
   if (colour == TRANSPARENT_COLOUR) return WHITE;
   if (colour == LEGEND_COLOUR) colour = settings.skin == DARK_SKIN ? WHITE : BLACK;
-  const int shift = (settings.brightness - 128) >> 1;
+  const int shift = brightness_shift();
   return rgb(brightened(red_of(colour), shift), brightened(green_of(colour), shift),
              brightened(blue_of(colour), shift));
 }

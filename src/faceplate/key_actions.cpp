@@ -8,6 +8,8 @@
 #include "engine/memory.h"
 #include "engine/state.h"
 #include "engine/tokens.h"
+#include "faceplate/catalog/function_catalog.h"
+#include "faceplate/catalog/variable_catalog.h"
 #include "faceplate/dialogs/clear_items.h"
 #include "faceplate/dialogs/select_variable.h"
 #include "faceplate/indicators.h"
@@ -135,6 +137,16 @@ int run_or_stop_program(int) {
 int press_calculator_tab(int key) {
   press_tab(key - 43);
   return KEY_DONE;
+}
+
+int enter_catalog_function(int) {
+  const int token = select_function();
+  return token == NO_FUNCTION_TOKEN ? KEY_DONE : token;
+}
+
+int enter_system_variable(int) {
+  const int token = select_system_variable();
+  return token == NO_VARIABLE_TOKEN ? KEY_DONE : token;
 }
 
 }  // namespace zephyl

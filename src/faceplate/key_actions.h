@@ -18,8 +18,8 @@ int move_left(int key);
 int move_right(int key);
 
 int evaluate(int key);
-// Evaluates and, if a result was shown, hands it to the statistics, the matrix or the list: of the screen that
-// shows, from COMP_MODE of that which the fourth tab leads to.
+// Evaluates and, if a result was shown, hands it to the statistics, the matrix or the list: of the screen
+// that shows, from COMP_MODE of that which the fourth tab leads to.
 int evaluate_and_enter(int key);
 int all_clear(int key);
 int scroll_left(int key);
@@ -31,6 +31,10 @@ int remove_last_stats_entry(int key);
 int recall_variable(int key);
 int store_variable(int key);
 int choose_items_to_clear(int key);
+
+// The catalogs: the token that was chosen goes into the expression.
+int enter_catalog_function(int key);
+int enter_system_variable(int key);
 
 // The run key; in program edit it saves the program first.
 int run_or_stop_program(int key);

@@ -8,7 +8,12 @@ namespace zephyl {
 constexpr int NO_TOKEN = -1;
 
 // When a key does nothing but click. A program at a prompt doesn't run: its user types an expression.
-enum TRefusal : unsigned { ALWAYS = 0, NOT_RUNNING = 1, NOT_ON_ERROR = 2, IDLE_ONLY = NOT_RUNNING | NOT_ON_ERROR };
+enum TRefusal : unsigned {
+  ALWAYS = 0,
+  NOT_RUNNING = 1,
+  NOT_ON_ERROR = 2,
+  IDLE_ONLY = NOT_RUNNING | NOT_ON_ERROR
+};
 
 // One meaning of a key: a token, or an action that gives the key's result. Neither: the key has no such
 // meaning, and the plain one stands in.
@@ -50,7 +55,7 @@ constexpr bool names_each_key(const TKeyRow (&rows)[ROWS], int count) {
 }
 
 // Does what a key of the map means with the shifts as they are. Results as those of key_pressed_decoder
-// (key_path.h). A key that the map doesn't name, or whose subsystem is still to come, does nothing.
+// (key_path.h). A key that the map doesn't name does nothing.
 int press_mapped_key(const TKeyMap& map, int key);
 
 }  // namespace zephyl

@@ -14,6 +14,9 @@
 #include "faceplate/key_actions.h"
 #include "faceplate/key_maps.h"
 #include "faceplate/key_path.h"
+#include "faceplate/modes.h"
+#include "persistence/constant_dialogs.h"
+#include "persistence/conversion_dialog.h"
 #include "plot/plot.h"
 #include "plot/plot_variables.h"
 
@@ -73,6 +76,16 @@ int enter_test(int) {
   return test < 0 ? KEY_DONE : test;
 }
 
+int enter_constant(int) {
+  if (insert_selected_constant() == CONSTANT_ELEMENTS) show_periodic_screen();
+  return KEY_DONE;
+}
+
+int enter_conversion(int) {
+  insert_selected_conversion();
+  return KEY_DONE;
+}
+
 int take_expression_back(int) {
   show_expressions();
   return KEY_DONE;
@@ -91,8 +104,8 @@ constexpr TKeyRow rows[] = {
     {3, 3, token(3), token(203)},
     {4, 4, token(4), token(204)},
     {5, 7, action(trigonometric)},
-    {8, 8, token(8, NOT_RUNNING)},
-    {9, 9, token(9, NOT_RUNNING)},
+    {8, 8, token(8, NOT_RUNNING), action(enter_constant, IDLE_ONLY)},
+    {9, 9, token(9, NOT_RUNNING), action(enter_conversion, IDLE_ONLY)},
     {10, 10, action(recall_variable, IDLE_ONLY), action(store_variable, IDLE_ONLY)},
     {11, 11, token(11), token(111)},
     {12, 12, token(12), token(112)},
@@ -107,8 +120,9 @@ constexpr TKeyRow rows[] = {
     {21, 21, action(move_left, NOT_RUNNING), action(move_left, NOT_RUNNING)},
     {22, 22, action(move_right, NOT_RUNNING), action(move_right, NOT_RUNNING)},
     {23, 23, token(23), token(173), token(123)},
-    {24, 24, token(24), none, action(write_string, IDLE_ONLY)},
-    {25, 25, token(25, IDLE_ONLY)},
+    {24, 24, token(24), action(write_string, IDLE_ONLY)},
+    {25, 25, token(25, IDLE_ONLY), action(enter_catalog_function, IDLE_ONLY),
+     action(enter_system_variable, IDLE_ONLY)},
     {26, 26, action(evaluate_and_enter, IDLE_ONLY), action(enter_function, IDLE_ONLY),
      action(plot_variable, IDLE_ONLY)},
     {27, 27, action(all_clear, NOT_RUNNING), action(remove_last_stats_entry, NOT_ON_ERROR),

@@ -90,7 +90,7 @@ int choose_cell(int key) {
 
 constexpr TKeyRow matrix_rows[] = {
     {0, 5, action(press_table_tab)},
-    {6, 6, none},  // functions
+    {6, 6, action(enter_catalog_function, IDLE_ONLY)},
     {7, 7, action(evaluate_here, IDLE_ONLY)},
     {8, 8, action(choose_size, IDLE_ONLY)},
     {9, 9, action(enter_variable, IDLE_ONLY)},
@@ -112,7 +112,7 @@ static_assert(names_each_key(matrix_rows, 72));
 
 constexpr TKeyRow list_rows[] = {
     {0, 5, action(press_table_tab)},
-    {6, 6, none},  // functions
+    {6, 6, action(enter_catalog_function, IDLE_ONLY)},
     {7, 7, action(evaluate_here, IDLE_ONLY)},
     {8, 8, action(choose_size, IDLE_ONLY)},
     {9, 9, action(enter_variable, IDLE_ONLY)},

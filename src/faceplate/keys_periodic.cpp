@@ -6,6 +6,7 @@
 #include "faceplate/key_maps.h"
 #include "faceplate/key_path.h"
 #include "faceplate/modes.h"
+#include "tools/dialogs/element_dialogs.h"
 
 namespace zephyl {
 
@@ -16,10 +17,22 @@ int leave(int) {
   return KEY_DONE;
 }
 
+int show_table(int) {
+  show_element_table();
+  return KEY_DONE;
+}
+
+constexpr int FIRST_ELEMENT_KEY = 2;
+
+int show_element(int key) {
+  show_element_information(key - FIRST_ELEMENT_KEY);
+  return KEY_DONE;
+}
+
 constexpr TKeyRow rows[] = {
     {0, 0, action(leave)},
-    {1, 1, none},    // the table of all elements
-    {2, 110, none},  // an element
+    {1, 1, action(show_table)},
+    {2, 110, action(show_element)},
     {111, 111, none},  // behind the last element there is none
 };
 static_assert(names_each_key(rows, 112));

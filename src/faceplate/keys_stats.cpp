@@ -9,6 +9,7 @@
 #include "faceplate/key_actions.h"
 #include "faceplate/key_maps.h"
 #include "faceplate/key_path.h"
+#include "stats/dialogs/stats_plots.h"
 #include "stats/stats.h"
 
 namespace zephyl {
@@ -42,6 +43,11 @@ int sum_up_statistics(int) {
   return KEY_DONE;
 }
 
+int plot_statistics(int) {
+  choose_stats_plot();
+  return KEY_DONE;
+}
+
 // The statistics values stand 1000 and, with the blue shift, 1100 above the keys.
 int statistics_value(int key) { return 1000 + key + (state.blue_shift ? 100 : 0); }
 
@@ -64,7 +70,8 @@ constexpr TKeyRow rows[] = {
     {21, 21, action(move_left, NOT_RUNNING), action(move_left, NOT_RUNNING)},
     {22, 22, action(move_right, NOT_RUNNING), action(move_right, NOT_RUNNING)},
     {23, 23, token(23), action(sum_up_statistics, IDLE_ONLY)},
-    {24, 25, action(enter_key_number)},
+    {24, 24, token(24), action(plot_statistics, IDLE_ONLY)},
+    {25, 25, action(enter_key_number)},
     {26, 26, action(evaluate_and_enter, IDLE_ONLY)},
     {27, 27, action(all_clear, NOT_RUNNING), action(choose_items_to_clear, IDLE_ONLY)},
     {28, 41, action(enter_key_number)},

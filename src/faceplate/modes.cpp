@@ -6,6 +6,8 @@
 #include "engine/state.h"
 #include "faceplate/dialogs/menu.h"
 #include "faceplate/dialogs/plot_note.h"
+#include "faceplate/dialogs/setup.h"
+#include "faceplate/program_edit.h"
 #include "faceplate/title.h"
 #include "platform/platform.h"
 #include "plot/drawing.h"
@@ -19,9 +21,7 @@ bool takes_the_fourth_tab(int mode) {
   return mode == BASE_MODE || mode == STATS_MODE || mode == MATRIX_MODE || mode == LIST_MODE;
 }
 
-bool nothing_to_plot() {
-  return plot_variables.enablePlots && !any_slot_in_use() && !drawing_present();
-}
+bool nothing_to_plot() { return plot_variables.enablePlots && !any_slot_in_use() && !drawing_present(); }
 
 void show_plot(bool ask) {
   if (ask && nothing_to_plot()) show_plot_note();
@@ -51,6 +51,8 @@ void set_mode(int mode, bool ask) {
     case PLOT_MODE:
       if (mode != state.calcMode) show_plot(ask);
       return;
+    case PROGRAM_EDIT_MODE:
+      return enter_program_edit();
     default:
       return;
   }
@@ -89,6 +91,8 @@ void press_tab(int tab) {
       return show_dynamic_mode();
     case TAB_MENU:
       return show_menu();
+    case TAB_SETUP:
+      return show_setup();
     default:
       return;
   }

@@ -7,9 +7,11 @@
 #include "faceplate/entry_line_view.h"
 #include "faceplate/gif.h"
 #include "faceplate/images.h"
+#include "faceplate/program_list.h"
 #include "faceplate/indicators.h"
 #include "faceplate/resources.h"
 #include "faceplate/result_line_view.h"
+#include "faceplate/table_screens.h"
 #include "faceplate/title.h"
 #include "plot/plot.h"
 #include "plot/plot_variables.h"
@@ -128,6 +130,7 @@ void paint_program_edit(TSurface& surface) {
   surface.fill(PROGRAM_LINE_RECT, display_colour());
   surface.fill(PROGRAM_LIST_RECT, display_colour());
   paint_upper_line(surface);
+  paint_program_list(surface);
 }
 
 void paint_periodic(TSurface& surface) { draw_gif_resource(surface, "periodic_gif", 0, 0, false, false); }
@@ -144,16 +147,22 @@ void paint_plot(TSurface& surface) {
   surface.blit(PLOT_LEFT, PLOT_TOP, PLOT_WIDTH, PLOT_HEIGHT, shown_plot(), 0, 0);
 }
 
-void paint_table(TSurface& surface, const char* background, const char* front) {
+void paint_table(TSurface& surface, const char* background, const char* front,
+                 void (*paint_cells)(TSurface& surface)) {
   draw_backdrop(surface, skinned_name(background), 0, 0);
   draw_picture(surface, skinned_name(front), 0, 0);
+  paint_cells(surface);
   paint_tabs(surface);
   surface.fill(DISPLAY_RECT, display_colour());
   paint_lines(surface);
 }
 
-void paint_matrix(TSurface& surface) { paint_table(surface, "MATRIX_BACKGROUND_GIF", "matrix_gif"); }
-void paint_list(TSurface& surface) { paint_table(surface, "LIST_BACKGROUND_GIF", "list_gif"); }
+void paint_matrix(TSurface& surface) {
+  paint_table(surface, "MATRIX_BACKGROUND_GIF", "matrix_gif", paint_matrix_table);
+}
+void paint_list(TSurface& surface) {
+  paint_table(surface, "LIST_BACKGROUND_GIF", "list_gif", paint_list_table);
+}
 
 // By TCalcMode.
 constexpr void (*screen_painters[])(TSurface& surface) = {paint_base,         paint_comp,     paint_stats,

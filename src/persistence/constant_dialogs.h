@@ -17,8 +17,8 @@ TConstantChoice select_constant(std::string& value);
 // The key and the menu row: the chosen constant's value goes into the expression.
 TConstantChoice insert_selected_constant();
 
-// Dialog 181. Deletes a constant (delete_constant asks first). True if a constant is to be added: then its
-// name is to be typed (take_constant_name), and its unit (take_constant_unit).
+// Dialog 181. Deletes a constant (delete_constant asks first). True if one is to be added: then its name is
+// to be typed, and its unit, for add_constant.
 bool edit_constants();
 
 }  // namespace zephyl

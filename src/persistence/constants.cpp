@@ -23,7 +23,6 @@ namespace {
 constexpr int ADDED_CONSTANT_LIMIT = 101;  // one less than a file may hold
 constexpr int VALUE_DIGITS = 10;
 
-std::string new_name;     // between the two steps of typing a constant
 std::string other_lines;  // of the user's file, that aren't constants: kept when it is written
 
 std::string constants_path() { return data_file_path("constants", "const", true); }
@@ -43,9 +42,11 @@ void sort_constants() {
   std::stable_sort(constant_table.rows, constant_table.rows + constant_table.count, stands_before);
 }
 
+// A file that is there but can't be read leaves the built-in ones, and is left alone.
 void read_user_constants() {
-  constant_table.count = 0;
   TLineReader reader(constants_path());
+  if (!reader.open()) return;
+  constant_table.count = 0;
   other_lines = read_units_text(reader);
 }
 
@@ -124,9 +125,5 @@ void delete_constant(const char* name) {
   else
     load_units_and_constants(true);
 }
-
-void take_constant_name(const char* name) { new_name = name; }
-
-void take_constant_unit(const char* unit) { add_constant(new_name.c_str(), unit); }
 
 }  // namespace zephyl

@@ -38,8 +38,4 @@ bool add_constant(const char* name, const char* unit);
 // Asks first. Deleting the last one brings the built-in constants back.
 void delete_constant(const char* name);
 
-// The two steps in which a new constant is typed: the name, kept until the unit comes.
-void take_constant_name(const char* name);
-void take_constant_unit(const char* unit);
-
 }  // namespace zephyl

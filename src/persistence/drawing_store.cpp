@@ -14,13 +14,13 @@ namespace {
 constexpr const char* WORK_FILE = "drawing.dat";
 constexpr std::size_t GIF_LIMIT = 1 << 20;  // no drawing takes more than a fifth of it
 
-// The line feed behind the line isn't part of the picture.
+// All up to the end; the line feed behind the line isn't part of the picture.
 std::vector<std::uint8_t> read_rest(TLineReader& reader) {
   std::vector<std::uint8_t> bytes;
   int byte = reader.read_byte();
   if (byte == '\n') byte = reader.read_byte();
-  for (; byte >= 0 && bytes.size() < GIF_LIMIT; byte = reader.read_byte())
-    bytes.push_back(static_cast<std::uint8_t>(byte));
+  for (; byte >= 0; byte = reader.read_byte())
+    if (bytes.size() < GIF_LIMIT) bytes.push_back(static_cast<std::uint8_t>(byte));
   return bytes;
 }
 

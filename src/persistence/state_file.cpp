@@ -55,10 +55,13 @@ void save_state(const char* path) {
 }
 
 void load_state(const char* path) {
-  TLineReader reader{std::string(path)};
-  if (!reader.open()) return;
+  TLineReader lines{std::string(path)};
+  if (lines.open()) load_state(lines);
+}
+
+void load_state(TLineReader& lines) {
   clear_entry_line();
-  read_records(reader);
+  read_records(lines);
   finish_reading_state();
 }
 

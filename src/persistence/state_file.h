@@ -2,6 +2,8 @@
 // docs/state-file.md tells the format record by record.
 #pragma once
 
+#include "persistence/text_file.h"
+
 namespace zephyl {
 
 // Writes what save_items names into a file. A failure is silent; the old file is then as it was.
@@ -10,6 +12,8 @@ void save_state(const char* path);
 // Reads a state file: what it holds takes the place of what is there, what it doesn't hold stays. A file that
 // isn't there changes nothing. Everything is shown anew.
 void load_state(const char* path);
+// The same from lines that are open already.
+void load_state(TLineReader& lines);
 
 // Asks for a state file and loads it (`open`), or saves into it. False if the user cancelled.
 bool choose_state_file(bool open);

@@ -11,6 +11,7 @@
 #include "persistence/state_records.h"
 #include "plot/plot_slots.h"
 #include "plot/plot_variables.h"
+#include "plot/zoom_locks.h"
 #include "stats/stats.h"
 #include "tools/tvm_state.h"
 
@@ -126,6 +127,8 @@ const TOption options[] = {
     real(10, SAVE_PLOT, &plot_variables.t.max),
     real(11, SAVE_PLOT, &plot_variables.t.min),
     real(12, SAVE_PLOT, &plot_variables.t.step),
+    flag(13, SAVE_PLOT, &zoom_locks.x),
+    flag(14, SAVE_PLOT, &zoom_locks.y),
     integer(30, SAVE_PLOT, &trace_functions.slot[PLOT_FUNCTION], 0, 5, 0),
     integer(31, SAVE_PLOT, &trace_functions.slot[PLOT_POLAR], 0, 5, 0),
     integer(32, SAVE_PLOT, &trace_functions.slot[PLOT_PARAMETRIC], 0, 5, 0),

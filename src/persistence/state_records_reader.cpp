@@ -168,6 +168,12 @@ void mend_plot_cursor() {
     plot_variables.plotCursor = CURSOR_TRACE;
 }
 
+// A screen without a tab of its own, or none at all, can't be where the fourth tab leads.
+void mend_fourth_tab() {
+  const int mode = state.dynamic_mode;
+  if (mode != BASE_MODE && mode != MATRIX_MODE && mode != LIST_MODE) state.dynamic_mode = STATS_MODE;
+}
+
 }  // namespace
 
 TStateLine read_state_line(const std::string& line) {
@@ -182,6 +188,7 @@ TStateLine read_state_line(const std::string& line) {
 void finish_reading_state() {
   mend_view();
   mend_plot_cursor();
+  mend_fourth_tab();
   entry_line.cursor = std::min(entry_line.cursor, entry_line.expression.count);
   refresh_result();
   hooks.redraw_title();

@@ -248,7 +248,8 @@ TEST_F(list_calculator, a_stored_list_that_is_given_out_becomes_global) {
   EXPECT_EQ(made_global, "100 109 ");
   eval("outList({1,2})");
   eval("outList((L_Ans))");
-  EXPECT_EQ(made_global, "100 109 -1 -1 ") << "lists in flight and the answer are no variables";
+  const std::string none = std::to_string(NO_SLOT) + " ";
+  EXPECT_EQ(made_global, "100 109 " + none + none) << "lists in flight and the answer have no name";
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -337,6 +338,13 @@ TEST_F(gif, brightens_legends_too) {
   EXPECT_EQ(drawn(GREEN), rgb(191, 191, 191));
 }
 
+TEST_F(gif, is_black_or_white_at_a_brightness_far_out) {
+  settings.brightness = std::numeric_limits<int>::max();
+  EXPECT_EQ(adjusted_colour(rgb(1, 2, 3)), WHITE);
+  settings.brightness = std::numeric_limits<int>::min();
+  EXPECT_EQ(adjusted_colour(rgb(250, 251, 252)), BLACK);
+}
+
 TEST_F(gif, moves_colours_by_half_of_the_brightness) {
   adjust = true;
   const TColour colour = rgb(100, 10, 250);
@@ -408,6 +416,27 @@ TEST_F(gif_file, reads_pictures_of_many_blocks) {
   EXPECT_EQ(surface.pixel(225, 44), rgb(0, 0, 248));
   EXPECT_EQ(surface.pixel(226, 44), GROUND);
   EXPECT_EQ(surface.pixel(225, 45), GROUND);
+}
+
+TEST_F(gif_file, draws_every_colour_of_a_pair_since_none_is_pure_magenta) {
+  write("", picture(2, 1, {0x1F, 0xF8}));
+  EXPECT_EQ(draw_gif_file(surface, file, 0, 0, true, true), GIF_OK);
+  EXPECT_EQ(surface.pixel(0, 0), rgb(248, 0, 248));
+}
+
+TEST_F(gif_file, drops_a_pixel_without_a_fellow) {
+  write("", picture(3, 2, {0x1F, 0x00, 0xFF, 0x00, 0xF8, 0xFF}));
+  EXPECT_EQ(draw_gif_file(surface, file, 0, 0, false, false), GIF_OK);
+  EXPECT_EQ(surface.pixel(0, 0), rgb(248, 0, 0));
+  EXPECT_EQ(surface.pixel(0, 1), rgb(0, 0, 248));
+  EXPECT_EQ(surface.pixel(1, 0), GROUND);
+  EXPECT_EQ(surface.pixel(1, 1), GROUND);
+}
+
+TEST_F(gif_file, draws_no_row_of_another_width_than_the_surface_takes) {
+  write("", picture(482, 1, std::vector<int>(482, 0)));
+  EXPECT_EQ(draw_gif_file(surface, file, 0, 0, false, false), GIF_NOT_GIF);
+  EXPECT_EQ(surface.pixel(0, 0), GROUND);
 }
 
 TEST_F(gif_file, brightens_the_colour_of_a_pair) {

@@ -92,7 +92,8 @@ class tabs : public face {
 };
 
 TEST_F(tabs, each_leads_to_its_mode_from_every_screen) {
-  for (const int mode : {BASE_MODE, COMP_MODE, STATS_MODE, PROGRAM_EDIT_MODE, PLOT_MODE, MATRIX_MODE, LIST_MODE}) {
+  for (const int mode :
+       {BASE_MODE, COMP_MODE, STATS_MODE, PROGRAM_EDIT_MODE, PLOT_MODE, MATRIX_MODE, LIST_MODE}) {
     state.calcMode = mode;
     tap_tab(TAB_PLOT);
     EXPECT_EQ(state.calcMode, PLOT_MODE) << "from " << mode;

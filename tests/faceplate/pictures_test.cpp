@@ -4,6 +4,7 @@
 
 #include "engine/errors.h"
 #include "engine/state.h"
+#include "faceplate/alpha_entry.h"
 #include "faceplate/face.h"
 #include "plot/plot_variables.h"
 #include "programs/run_state.h"
@@ -93,6 +94,57 @@ TEST_F(pictures, a_running_program) {
   state.program_running = run.key_run = true;
   expect_in_every_skin("comp_running");
   state.program_running = run.key_run = false;
+}
+
+TEST_F(pictures, the_program_editor) {
+  state.calcMode = PROGRAM_EDIT_MODE;
+  expect_in_every_skin("program_edit");
+}
+
+TEST_F(pictures, the_keys_of_plots) {
+  state.calcMode = PLOT_MODE;
+  expect_in_every_skin("plot_function");
+  plot_variables.plotType = PLOT_3D;
+  plot_variables.plotCursor = CURSOR_ROTATE;
+  expect_in_every_skin("plot_3d");
+}
+
+class text_entry_pictures : public pictures {
+ protected:
+  static void begin(int kind, const std::string& text) {
+    start_alpha_entry(kind);
+    for (const char c : text) on_char(static_cast<unsigned char>(c));
+  }
+};
+
+TEST_F(text_entry_pictures, letters) {
+  begin(ALPHA_STRING, "Hello, w");
+  expect_in_every_skin("alpha_letters");
+  tap_key(36);
+  expect_screen("alpha_letters_shifted");
+}
+
+TEST_F(text_entry_pictures, symbols) {
+  begin(ALPHA_STRING, "a");
+  tap_key(39);
+  tap_key(36);
+  expect_screen("alpha_symbols_long_shifted");
+  begin(ALPHA_NEW_PROGRAM, "Sum");
+  tap_key(39);
+  expect_screen("alpha_symbols_short");
+  tap_key(36);
+  expect_screen("alpha_symbols_short_shifted");
+}
+
+TEST_F(text_entry_pictures, prompts) {
+  constexpr TRect PROMPT = {4, 58, 200, 82};
+  TSurface all(PROMPT.width(), ALPHA_PROMPT_COUNT * PROMPT.height());
+  for (int kind = 0; kind < ALPHA_PROMPT_COUNT; ++kind) {
+    begin(kind, "");
+    paint();
+    all.blit(0, kind * PROMPT.height(), PROMPT.width(), PROMPT.height(), screen(), PROMPT.left, PROMPT.top);
+  }
+  expect_picture("alpha_prompts", all);
 }
 
 TEST_F(pictures, brightness_and_colour_of_the_display) {

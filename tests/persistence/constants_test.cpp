@@ -3,16 +3,23 @@
 #include "persistence/constants.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <string>
 
 #include "engine/expression.h"
 #include "engine/memory.h"
 #include "engine/state.h"
+#include "faceplate/alpha_entry.h"
+#include "faceplate/dialogs/menu.h"
+#include "faceplate/key_tables.h"
+#include "faceplate/modes.h"
 #include "persistence/constant_dialogs.h"
 #include "persistence/conversion_dialog.h"
 #include "persistence/text_order.h"
 #include "persistence/units.h"
+#include "platform/events.h"
 #include "support/calculator.h"
 #include "support/file_faults.h"
 
@@ -31,6 +38,13 @@ class constants : public calculator {
   void start_with(const std::string& content) {
     make_file(file(), content);
     restart(folder_.path());
+  }
+
+  static void tap_key(int key) {
+    KeyRect at;
+    ASSERT_TRUE(key_rect(key, at));
+    on_pen_down((at.left + at.right) / 2, (at.top + at.bottom) / 2);
+    on_pen_up((at.left + at.right) / 2, (at.top + at.bottom) / 2);
   }
 
   TTestFolder folder_;
@@ -95,6 +109,14 @@ TEST_F(constants, a_line_of_another_length_ends_the_file) {
   EXPECT_EQ(constant_count(), 0);
 }
 
+TEST_F(constants, a_file_that_can_not_be_read_is_left_alone) {
+  ASSERT_EQ(::unlink(file().c_str()), 0);
+  ASSERT_EQ(::mkdir(file().c_str(), 0700), 0);
+  restart(folder_.path());
+  EXPECT_EQ(constant_count(), 44);
+  EXPECT_EQ(::rmdir(file().c_str()), 0);
+}
+
 TEST_F(constants, lines_of_another_kind_are_passed_over) {
   start_with("Note: mine\r\nCons: a, m, 1\r\n");
   EXPECT_EQ(constant_count(), 1);
@@ -135,8 +157,7 @@ TEST_F(constants, the_real_part_counts_and_the_mark_is_a_point) {
 }
 
 TEST_F(constants, typed_commas_become_blanks) {
-  take_constant_name("a,b");
-  take_constant_unit("m,s");
+  add_constant("a,b", "m,s");
   EXPECT_EQ(row("a b"), "a b|m s|0.0000000000e0");
 }
 
@@ -364,6 +385,72 @@ TEST_F(constants, the_conversion_dialog_opens_where_it_was_left) {
     EXPECT_EQ(dialog[2].selected, 0);
   });
   EXPECT_FALSE(select_conversion(from, position));
+}
+
+// --- From the keys
+
+TEST_F(constants, a_blue_key_opens_each_dialog) {
+  platform_.dialog_answers.push_back([](TDialog& dialog) {
+    choose_row(dialog, 0, find_constant("Gravitational acceleration"));
+    accept_dialog(dialog);
+  });
+  tap_key(1);
+  tap_key(8);
+  EXPECT_EQ(entry(), "(9.80665)");
+  platform_.dialog_answers.push_back([](TDialog& dialog) {
+    choose_row(dialog, 0, 11);
+    choose_row(dialog, 1, 15);
+    choose_row(dialog, 2, 5);
+    accept_dialog(dialog);
+  });
+  tap_key(1);
+  tap_key(9);
+  EXPECT_EQ(entry(), "(9.80665)(m/s>ft/s)");
+  EXPECT_EQ(platform_.dialogs, (std::vector<std::string>{"147 Select Constant", "138 Select Conversion"}));
+}
+
+TEST_F(constants, the_elements_button_leads_to_the_periodic_screen) {
+  platform_.dialog_answers.push_back(
+      [](TDialog& dialog) { press_button(dialog, find_control(dialog, "Elements")); });
+  tap_key(1);
+  tap_key(8);
+  EXPECT_EQ(state.calcMode, PERIODIC_MODE);
+}
+
+TEST_F(constants, the_menu_opens_them_from_a_plot) {
+  set_mode(PLOT_MODE, false);
+  platform_.dialog_answers.push_back([](TDialog& dialog) {
+    choose_row(dialog, 0, 8);
+    accept_dialog(dialog);
+  });
+  platform_.dialog_answers.push_back([](TDialog& dialog) {
+    choose_row(dialog, 0, find_constant("Gravitational acceleration"));
+    accept_dialog(dialog);
+  });
+  show_menu();
+  EXPECT_EQ(state.calcMode, COMP_MODE);
+  EXPECT_EQ(entry(), "(9.80665)");
+}
+
+TEST_F(constants, a_new_one_is_typed_in_two_steps) {
+  eval("1/8");
+  start_alpha_entry(ALPHA_CONSTANT_NAME);
+  for (const char c : std::string("abc")) on_char(static_cast<unsigned char>(c));
+  on_char('\r');
+  EXPECT_TRUE(state.alpha_active);
+  on_char('m');
+  on_char('\r');
+  EXPECT_FALSE(state.alpha_active);
+  EXPECT_EQ(row("abc"), "abc|m|1.2500000000e-1");
+}
+
+TEST_F(constants, a_new_one_needs_no_unit) {
+  start_alpha_entry(ALPHA_CONSTANT_NAME);
+  on_char('c');
+  on_char('\r');
+  on_char('\r');
+  EXPECT_FALSE(state.alpha_active);
+  EXPECT_EQ(row("c"), "c||0.0000000000e0");
 }
 
 }  // namespace zephyl

@@ -34,7 +34,12 @@ class programs : public ::testing::Test {
     return outcome;
   }
   TOutcome script(const std::string& input) { return run(ZEPHYL_SCRIPT, input); }
-  TOutcome console(const std::string& input) { return run(ZEPHYL_CONSOLE, input); }
+  // Its data folder is its own folder, so it runs as a copy beside the input: what another run has kept must not show here.
+  TOutcome console(const std::string& input) {
+    const std::filesystem::path copy = folder_ / "zephyl-console";
+    if (!std::filesystem::exists(copy)) std::filesystem::copy_file(ZEPHYL_CONSOLE, copy);
+    return run(copy.string(), input);
+  }
 
   std::filesystem::path folder_;
 };

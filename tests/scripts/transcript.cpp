@@ -153,10 +153,14 @@ bool read_transcript(const std::string& path, TTranscript& transcript) {
 }
 
 bool run_transcript(TTranscript& transcript) {
+  TScriptPlatform platform;
+  return run_transcript(transcript, platform);
+}
+
+bool run_transcript(TTranscript& transcript, TScriptPlatform& platform) {
   const TTemporaryFolder folder;
   if (!folder.made()) return false;
   write_programs(transcript);
-  TScriptPlatform platform;
   set_platform(&platform);
   register_families();
   TTranscriptChannel channel(transcript);

@@ -21,6 +21,8 @@
 
 namespace zephyl {
 
+class TScriptPlatform;
+
 struct TExchange {
   std::vector<std::string> heading;  // comments and blank lines in front of it
   int line = 0;                      // of the command in the file, from 1
@@ -47,6 +49,8 @@ bool read_transcript(const std::string& path, TTranscript& transcript);
 
 // Gives the commands to a calculator that starts afresh in an empty folder of its own, and keeps its answers.
 bool run_transcript(TTranscript& transcript);
+// The same with a platform that keeps an eye on what happens.
+bool run_transcript(TTranscript& transcript, TScriptPlatform& platform);
 
 // Prints each exchange whose answer is another than expected. Returns how many there are.
 int print_differences(const TTranscript& transcript);

@@ -17,6 +17,7 @@
 #include "plot/drawing.h"
 #include "plot/plot_slots.h"
 #include "plot/plot_variables.h"
+#include "plot/zoom_locks.h"
 #include "stats/stats.h"
 #include "tools/tvm_state.h"
 
@@ -30,8 +31,9 @@ class TNumbers {
   double next() {
     word_ = word_ * 6364136223846793005u + 1442695040888963407u;
     char text[40];
-    std::snprintf(text, sizeof text, "%s%d.%013llde%d", word_ & 1 ? "-" : "", 1 + static_cast<int>((word_ >> 8) % 9),
-                  static_cast<long long>((word_ >> 16) % 10000000000000u), static_cast<int>((word_ >> 50) % 200) - 100);
+    std::snprintf(
+        text, sizeof text, "%s%d.%013llde%d", word_ & 1 ? "-" : "", 1 + static_cast<int>((word_ >> 8) % 9),
+        static_cast<long long>((word_ >> 16) % 10000000000000u), static_cast<int>((word_ >> 50) % 200) - 100);
     return std::strtod(text, nullptr);
   }
 
@@ -41,7 +43,8 @@ class TNumbers {
 
 void fill_expression(TExpression& expression, int seed) {
   expression.count = 1 + seed % EXPRESSION_LIMIT;
-  for (int i = 0; i < expression.count; ++i) expression.tokens[i] = static_cast<TToken>((seed * 131 + i * 17) % 32001);
+  for (int i = 0; i < expression.count; ++i)
+    expression.tokens[i] = static_cast<TToken>((seed * 131 + i * 17) % 32001);
 }
 
 void fill_numbers(TNumbers& numbers) {
@@ -117,6 +120,7 @@ void fill_plot(TNumbers& numbers) {
   plot_variables.zScale = numbers.next();
   plot_variables.rotation_x = numbers.next();
   plot_variables.rotation_y = numbers.next();
+  zoom_locks.x = zoom_locks.y = true;
   for (int type = 0; type < PLOT_TYPE_COUNT; ++type) trace_functions.slot[type] = type + 1;
 }
 
@@ -150,7 +154,8 @@ std::string state_text() {
   append_state_records(text);
   save_items = kept;
   const TSurface& picture = drawing_bitmap();
-  for (int i = 0; i < picture.width() * picture.height(); ++i) text += std::to_string(picture.pixels()[i]) + " ";
+  for (int i = 0; i < picture.width() * picture.height(); ++i)
+    text += std::to_string(picture.pixels()[i]) + " ";
   return text;
 }
 
@@ -162,6 +167,7 @@ void empty_state() {
   reset_tvm_state();
   reset_drawing();
   clear_calculator(false);
+  zoom_locks = {};
   matrix_view = {};
   list_view = {};
   save_items = {};

@@ -5,8 +5,8 @@
 
 namespace zephyl {
 
-// Fills everything that a state file keeps: all memories, 999 statistics rows, 11 lists of 999 elements, 11 matrices of
-// 30 by 30, 11 strings, all functions, the history, the options and a drawing.
+// Fills everything that a state file keeps: all memories, 999 statistics rows, 11 lists of 999 elements, 11
+// matrices of 30 by 30, 11 strings, all functions, the history, the options and a drawing.
 void fill_state();
 
 // The records that a save of all items writes, and the drawing's pixels.

@@ -51,9 +51,9 @@ bool any_drawing() { return drawing.drawing_used; }
 bool nothing() { return false; }
 
 // Whether there is something to clear, by TClearItem from CLEAR_VARIABLES on.
-constexpr bool (*holds_data[])() = {any_variable, any_statistics,   any_list, any_matrix,
-                                    any_plot_function, any_drawing, any_history, any_program_function,
-                                    nothing,      any_string};
+constexpr bool (*holds_data[])() = {any_variable,      any_statistics, any_list,    any_matrix,
+                                    any_plot_function, any_drawing,    any_history, any_program_function,
+                                    nothing,           any_string};
 static_assert(std::size(holds_data) == CLEAR_ALL_ITEMS - 1);
 
 void add_boxes(TDialog& dialog) {

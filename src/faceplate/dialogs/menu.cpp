@@ -4,9 +4,15 @@
 
 #include "engine/errors.h"
 #include "engine/state.h"
+#include "faceplate/dialogs/remembered.h"
+#include "faceplate/dialogs/sample_plots.h"
 #include "faceplate/modes.h"
+#include "persistence/constant_dialogs.h"
+#include "persistence/conversion_dialog.h"
 #include "platform/dialog.h"
 #include "platform/platform.h"
+#include "tools/dialogs/money_dialogs.h"
+#include "tools/stopwatch.h"
 
 namespace zephyl {
 
@@ -28,12 +34,26 @@ void periodic_table() {
   show_periodic_screen();
 }
 
+void constants() {
+  leave_plot_and_program_edit();
+  if (insert_selected_constant() == CONSTANT_ELEMENTS) show_periodic_screen();
+}
+
+void conversions() {
+  leave_plot_and_program_edit();
+  insert_selected_conversion();
+}
+
+void sample_plots() {
+  if (choose_sample_plot()) set_mode(PLOT_MODE, false);
+}
+
 struct TMenuRow {
   const char* text;
   const char* description;
   unsigned refused;
-  int mode;        // the mode that it sets, or NO_MODE
-  void (*act)();   // else what it does
+  int mode;       // the mode that it sets, or NO_MODE
+  void (*act)();  // else what it does
 };
 constexpr int NO_MODE = -1;
 
@@ -45,20 +65,20 @@ constexpr TMenuRow menu_items[] = {
     {"MATRIX Mode", "Linear algebra matrix computations.", ON_ERROR, MATRIX_MODE, nullptr},
     {"PROG Mode", "Create and edit programs.", ON_ERROR, PROGRAM_EDIT_MODE, nullptr},
     {"PLOT Mode", "Function, polar, parametric and 3D plotting.", ON_ERROR, PLOT_MODE, nullptr},
-    {"TVM Solver", "Solve time value of money problems.", ON_ERROR | RUNNING, NO_MODE, nullptr},
-    {"Constants", "Scientific constants.", ON_ERROR | RUNNING_UNPAUSED, NO_MODE, nullptr},
-    {"Conversions", "Convert from one unit to another.", ON_ERROR | RUNNING_UNPAUSED, NO_MODE, nullptr},
+    {"TVM Solver", "Solve time value of money problems.", ON_ERROR | RUNNING, NO_MODE, show_tvm_solver},
+    {"Constants", "Scientific constants.", ON_ERROR | RUNNING_UNPAUSED, NO_MODE, constants},
+    {"Conversions", "Convert from one unit to another.", ON_ERROR | RUNNING_UNPAUSED, NO_MODE, conversions},
     {"Periodic Table", "View the periodic table of the elements.", ON_ERROR | RUNNING_UNPAUSED, NO_MODE,
      periodic_table},
     {"Plot Samples",
      "Sample plots for each plot type (function, polar, parametric, 3D cartesian, 3D cylindrical, 3D "
      "spherical).",
-     ON_ERROR, NO_MODE, nullptr},
-    {"Stopwatch", "Time events.", ON_ERROR | RUNNING, NO_MODE, nullptr},
+     ON_ERROR, NO_MODE, sample_plots},
+    {"Stopwatch", "Time events.", ON_ERROR | RUNNING, NO_MODE, show_stopwatch},
     {"View Help File", "View the help file.", FREE, NO_MODE, show_help},
 };
 
-int last_row = 0;
+int& last_row = remembered.menu_row;
 
 bool refused(unsigned refusals) {
   const bool paused = state.at_prompt || state.key_wait;

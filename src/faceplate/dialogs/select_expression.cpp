@@ -2,6 +2,7 @@
 
 #include "engine/expression.h"
 #include "engine/tokens.h"
+#include "faceplate/dialogs/remembered.h"
 #include "faceplate/dialogs/running.h"
 
 namespace zephyl {
@@ -13,7 +14,7 @@ enum TUse { REPLACE_LINE = 0, INSERT_AT_CURSOR };
 
 constexpr int LISTING_SIZE = 2000;
 
-int last_row = 0;
+int& last_row = remembered.expression_row;
 
 std::vector<std::string> entry_texts() {
   std::vector<std::string> texts;

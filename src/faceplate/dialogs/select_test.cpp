@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include "faceplate/dialogs/remembered.h"
 #include "faceplate/dialogs/running.h"
 
 namespace zephyl {
@@ -15,10 +16,8 @@ struct TTestRow {
 };
 
 constexpr TTestRow tests[] = {
-    {"value1 = value2", 393,
-     "Returns 1 if both values are equal, otherwise 0.\nExample: 2+2=4 returns 1"},
-    {"value1 <> value2", 392,
-     "Returns 1 if the values are not equal, otherwise 0.\nExample: 2<>3 returns 1"},
+    {"value1 = value2", 393, "Returns 1 if both values are equal, otherwise 0.\nExample: 2+2=4 returns 1"},
+    {"value1 <> value2", 392, "Returns 1 if the values are not equal, otherwise 0.\nExample: 2<>3 returns 1"},
     {"value1 < value2", 389,
      "Returns 1 if value1 is less than value2, otherwise 0. Complex values are compared by magnitude.\n"
      "Example: 2<3 returns 1"},
@@ -44,7 +43,7 @@ constexpr TTestRow tests[] = {
      "Returns 1 if the value is 0, otherwise 0. The value can't be a matrix.\nExample: NOT(0) returns 1"},
 };
 
-int last_row = 0;
+int& last_row = remembered.test_row;
 
 }  // namespace
 
@@ -57,7 +56,8 @@ int choose_test() {
   const int help = dialog.add(text_control("Test Description:", tests[last_row].help, 5));
   add_ok_cancel(dialog);
   dialog.procedure = [=](TDialog& open, const TDialogEvent& event) {
-    if (event.kind == CONTROL_CHANGED && event.control == list) open[help].text = tests[open[list].selected].help;
+    if (event.kind == CONTROL_CHANGED && event.control == list)
+      open[help].text = tests[open[list].selected].help;
     close_on_activation(open, event, list);
   };
   if (!confirmed(dialog)) return -1;

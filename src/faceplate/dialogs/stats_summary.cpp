@@ -16,11 +16,14 @@ struct TSummaryRow {
   int value;  // TStatisticsValue
 };
 
-constexpr TSummaryRow rows_of_one[] = {
-    {"n", STAT_COUNT},          {"x mean", STAT_MEAN_X},
-    {"x min", STAT_X_MIN},      {"x max", STAT_X_MAX},
-    {"x sum", STAT_SUM_X},      {"x sum of squares", STAT_SUM2_X},
-    {"x std dev", STAT_STD_DEV_X}, {"x std dev(n-1)", STAT_STD_DEV_1_X}};
+constexpr TSummaryRow rows_of_one[] = {{"n", STAT_COUNT},
+                                       {"x mean", STAT_MEAN_X},
+                                       {"x min", STAT_X_MIN},
+                                       {"x max", STAT_X_MAX},
+                                       {"x sum", STAT_SUM_X},
+                                       {"x sum of squares", STAT_SUM2_X},
+                                       {"x std dev", STAT_STD_DEV_X},
+                                       {"x std dev(n-1)", STAT_STD_DEV_1_X}};
 
 constexpr TSummaryRow rows_of_two[] = {{"n", STAT_COUNT},
                                        {"x mean", STAT_MEAN_X},
@@ -47,7 +50,8 @@ constexpr TSummaryRow rows_of_fit[] = {{"a", STAT_SLOPE}, {"b", STAT_INTERCEPT},
 std::string value_text(int index) {
   const double value = stats_value(index);
   if (!errors.error_flag)
-    return format_number(value, settings.numberFormat, settings.decimalDigits, settings.baseType, false, false);
+    return format_number(value, settings.numberFormat, settings.decimalDigits, settings.baseType, false,
+                         false);
   clear_error();
   return "Error";
 }

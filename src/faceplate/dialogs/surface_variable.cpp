@@ -12,7 +12,8 @@ int choose_surface_variable() {
   const int v = dialog.add(other);
   dialog.add(button_control("Cancel", BUTTON_CANCEL));
   dialog.procedure = [=](TDialog& open, const TDialogEvent& event) {
-    if (event.kind == CONTROL_ACTIVATED && (event.control == u || event.control == v)) open.close(event.control - u);
+    if (event.kind == CONTROL_ACTIVATED && (event.control == u || event.control == v))
+      open.close(event.control - u);
   };
   platform().run_dialog(dialog);
   return dialog.result();

@@ -2,6 +2,7 @@
 
 #include "engine/memory.h"
 #include "engine/tokens.h"
+#include "faceplate/dialogs/remembered.h"
 #include "faceplate/dialogs/running.h"
 
 namespace zephyl {
@@ -17,12 +18,15 @@ struct TTableDialog {
   char opening, closing;
   int answer_token;
   int first_slot;
-  int last_row;
+  int TRemembered::*last_row;
 };
 
-TTableDialog matrix_dialog = {204, "Select Matrix Variable", "RCL [Matrix Ans]", '[', ']',
-                              TOKEN_M_ANS, SLOT_MATRIX_A, 0};
-TTableDialog list_dialog = {211, "Select List Variable", "RCL {List Ans}", '{', '}', TOKEN_L_ANS, SLOT_LIST_A, 0};
+constexpr TTableDialog matrix_dialog = {
+    204,           "Select Matrix Variable",         "RCL [Matrix Ans]", '[', ']', TOKEN_M_ANS,
+    SLOT_MATRIX_A, &TRemembered::matrix_variable_row};
+constexpr TTableDialog list_dialog = {
+    211,         "Select List Variable",         "RCL {List Ans}", '{', '}', TOKEN_L_ANS,
+    SLOT_LIST_A, &TRemembered::list_variable_row};
 
 std::vector<std::string> texts(const TTableDialog& kind) {
   std::vector<std::string> rows = {kind.answer};
@@ -38,15 +42,18 @@ int token_of_row(const TTableDialog& kind, int row) {
   return store_token(kind.first_slot + row - 1 - VARIABLES);
 }
 
-int choose(TTableDialog& kind) {
+int choose(const TTableDialog& kind) {
+  int& last_row = remembered.*kind.last_row;
   TDialog dialog(kind.id, kind.title);
-  const int list = dialog.add(list_control("", texts(kind), kind.last_row));
+  const int list = dialog.add(list_control("", texts(kind), last_row));
   dialog[list].lines = 12;
   add_ok_cancel(dialog);
-  dialog.procedure = [=](TDialog& open, const TDialogEvent& event) { close_on_activation(open, event, list); };
+  dialog.procedure = [=](TDialog& open, const TDialogEvent& event) {
+    close_on_activation(open, event, list);
+  };
   if (!confirmed(dialog)) return -1;
-  kind.last_row = dialog[list].selected;
-  return token_of_row(kind, kind.last_row);
+  last_row = dialog[list].selected;
+  return token_of_row(kind, last_row);
 }
 
 }  // namespace

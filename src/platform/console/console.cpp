@@ -49,7 +49,7 @@ void make_ready() {
 
 }  // namespace
 
-TConsole::TConsole(TLineReader& lines, TConsolePlatform& platform, bool interactive)
+TConsole::TConsole(TConsoleLines& lines, TConsolePlatform& platform, bool interactive)
     : lines_(lines), platform_(platform), interactive_(interactive) {}
 
 void TConsole::run() {

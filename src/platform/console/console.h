@@ -11,7 +11,7 @@ namespace zephyl {
 class TConsole {
  public:
   // interactive: somebody sits at a terminal and is greeted.
-  TConsole(TLineReader& lines, TConsolePlatform& platform, bool interactive);
+  TConsole(TConsoleLines& lines, TConsolePlatform& platform, bool interactive);
 
   // Starts the calculator, answers until `quit` or the end of the input, stops it.
   // The platform must be set and the families registered.
@@ -22,7 +22,7 @@ class TConsole {
   bool obey(const std::string& line);
   void evaluate(const std::string& line);
 
-  TLineReader& lines_;
+  TConsoleLines& lines_;
   TConsolePlatform& platform_;
   bool interactive_;
 };

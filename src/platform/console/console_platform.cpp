@@ -5,6 +5,7 @@
 #include <ctime>
 
 #include "platform/console/data_folder.h"
+#include "platform/console/dialog_talk.h"
 #include "platform/console/interrupts.h"
 #include "platform/dialog.h"
 
@@ -13,6 +14,17 @@ namespace zephyl {
 namespace {
 
 constexpr TPoint AC_KEY = {215, 202};
+
+// A line behind a prompt; false at the end of the input.
+bool ask_line(const std::string& prompt, std::string& line) {
+  std::printf("%s", prompt.c_str());
+  std::fflush(stdout);
+  line.clear();
+  int c = std::getc(stdin);
+  const bool any = c != EOF;
+  for (; c != EOF && c != '\n'; c = std::getc(stdin)) line += static_cast<char>(c);
+  return any;
+}
 
 }  // namespace
 
@@ -68,18 +80,21 @@ void TConsolePlatform::show_message(const char* text, const char* title) {
 
 bool TConsolePlatform::ask_question(const char* text, const char* title) {
   if (!interactive_) return true;
-  std::printf("%s: %s [y/n] ", title, text);
-  std::fflush(stdout);
-  const int first = std::getc(stdin);
-  for (int c = first; c != '\n' && c != EOF;) c = std::getc(stdin);
-  return first == 'y' || first == 'Y';
+  std::string line;
+  ask_line(std::string(title) + ": " + text + " [y/n] ", line);
+  return !line.empty() && (line[0] == 'y' || line[0] == 'Y');
 }
 
 void TConsolePlatform::run_dialog(TDialog& dialog) {
   dialog.tell(DIALOG_OPENED);
-  cancel_dialog(dialog);
+  if (interactive_)
+    talk_through(dialog, ask_line);
+  else
+    cancel_dialog(dialog);
 }
 
-bool TConsolePlatform::choose_file(const TFileQuestion&, std::string&) { return false; }
+bool TConsolePlatform::choose_file(const TFileQuestion& question, std::string& path) {
+  return interactive_ && ask_line(std::string(question.title) + ", path: ", path) && !path.empty();
+}
 
 }  // namespace zephyl

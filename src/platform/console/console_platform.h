@@ -10,7 +10,8 @@ namespace zephyl {
 
 class TConsolePlatform : public TPlatform {
  public:
-  // interactive: questions are put to whoever sits at the terminal; otherwise each is answered with yes.
+  // interactive: questions and dialogs are put to whoever sits at the terminal; otherwise each question is answered
+  // with yes, each dialog cancelled.
   explicit TConsolePlatform(bool interactive);
 
   // An interrupt that came is done with.

@@ -12,7 +12,7 @@ namespace zephyl {
 
 namespace {
 
-class TPlainLines : public TLineReader {
+class TPlainLines : public TConsoleLines {
  public:
   bool read(std::string& line) override {
     line.clear();
@@ -34,7 +34,7 @@ int give_up_line() {
   return 0;
 }
 
-class TTerminalLines : public TLineReader {
+class TTerminalLines : public TConsoleLines {
  public:
   TTerminalLines() {
     rl_readline_name = "zephyl";
@@ -69,7 +69,7 @@ class TTerminalLines : public TLineReader {
 
 }  // namespace
 
-std::unique_ptr<TLineReader> terminal_lines() { return std::make_unique<TTerminalLines>(); }
-std::unique_ptr<TLineReader> plain_lines() { return std::make_unique<TPlainLines>(); }
+std::unique_ptr<TConsoleLines> terminal_lines() { return std::make_unique<TTerminalLines>(); }
+std::unique_ptr<TConsoleLines> plain_lines() { return std::make_unique<TPlainLines>(); }
 
 }  // namespace zephyl

@@ -6,15 +6,15 @@
 
 namespace zephyl {
 
-class TLineReader {
+class TConsoleLines {
  public:
-  virtual ~TLineReader() = default;
+  virtual ~TConsoleLines() = default;
   // The next line without its end. False at the end of the input.
   virtual bool read(std::string& line) = 0;
 };
 
 // With a prompt, editing and recall of earlier lines. Ctrl+C gives up the line.
-std::unique_ptr<TLineReader> terminal_lines();
-std::unique_ptr<TLineReader> plain_lines();
+std::unique_ptr<TConsoleLines> terminal_lines();
+std::unique_ptr<TConsoleLines> plain_lines();
 
 }  // namespace zephyl

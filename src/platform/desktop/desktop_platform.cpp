@@ -12,9 +12,11 @@
 
 #include "faceplate/key_tables.h"
 #include "platform/desktop/clipboard.h"
+#include "platform/desktop/dialogs/dialog_window.h"
+#include "platform/desktop/file_question.h"
 #include "platform/desktop/window_place.h"
-#include "platform/events.h"
 #include "platform/dialog.h"
+#include "platform/events.h"
 
 namespace zephyl {
 
@@ -28,6 +30,25 @@ TPoint centre_of_ac() {
 }
 
 }  // namespace
+
+// While a box is open the cursor is the usual one, and the picture is shown as it changes.
+class TDesktopPlatform::TBoxOpen {
+ public:
+  explicit TBoxOpen(TDesktopPlatform& platform) : platform_(platform), waiting_(platform.wait_cursor_) {
+    platform_.set_wait_cursor(false);
+    ++platform_.boxes_open_;
+  }
+  ~TBoxOpen() {
+    --platform_.boxes_open_;
+    platform_.set_wait_cursor(waiting_);
+  }
+  TBoxOpen(const TBoxOpen&) = delete;
+  TBoxOpen& operator=(const TBoxOpen&) = delete;
+
+ private:
+  TDesktopPlatform& platform_;
+  bool waiting_;
+};
 
 TDesktopPlatform::TDesktopPlatform(std::string folder)
     : folder_(std::move(folder)),
@@ -93,8 +114,9 @@ bool TDesktopPlatform::work() {
 }
 
 // One round of the main loop. Boxes and the poll run event loops of their own inside of it; the timer fires
-// there too, and does nothing.
+// there too, and does nothing but show the picture behind a box.
 void TDesktopPlatform::round() {
+  if (boxes_open_ > 0) return compose();
   if (working_ || stopped_) return;
   working_ = true;
   TInput input;
@@ -180,9 +202,12 @@ bool TDesktopPlatform::take_paint_request() {
   return was_requested;
 }
 
+// Painting may itself open a box, to say that a picture is missing.
 void TDesktopPlatform::compose() {
-  if (!take_paint_request()) return;
+  if (composing_ || !take_paint_request()) return;
+  composing_ = true;
   on_paint();
+  composing_ = false;
   present(false);
 }
 
@@ -205,15 +230,17 @@ void TDesktopPlatform::set_wait_cursor(bool on) {
 }
 
 void TDesktopPlatform::show_message(const char* text, const char* title) {
+  const TBoxOpen open(*this);
   QMessageBox box(QMessageBox::Warning, QString::fromUtf8(title), QString::fromUtf8(text), QMessageBox::Ok,
-                  &window_);
+                  front_window());
   box.setTextFormat(Qt::PlainText);
   box.exec();
 }
 
 bool TDesktopPlatform::ask_question(const char* text, const char* title) {
+  const TBoxOpen open(*this);
   QMessageBox box(QMessageBox::Question, QString::fromUtf8(title), QString::fromUtf8(text),
-                  QMessageBox::Yes | QMessageBox::No, &window_);
+                  QMessageBox::Yes | QMessageBox::No, front_window());
   box.setTextFormat(Qt::PlainText);
   return box.exec() == QMessageBox::Yes;
 }
@@ -225,9 +252,21 @@ void TDesktopPlatform::show_help() {
 
 void TDesktopPlatform::run_dialog(TDialog& dialog) {
   dialog.tell(DIALOG_OPENED);
-  cancel_dialog(dialog);
+  if (dialog.closed()) return;
+  const TBoxOpen open(*this);
+  invalidate(false);  // the key that opened it is drawn released
+  TDialogWindow(dialog, front_window(), window_.zoom()).run();
 }
 
-bool TDesktopPlatform::choose_file(const TFileQuestion&, std::string&) { return false; }
+bool TDesktopPlatform::choose_file(const TFileQuestion& question, std::string& path) {
+  const TBoxOpen open(*this);
+  invalidate(false);
+  return ask_for_file(question, front_window(), QString::fromStdString(folder_), path);
+}
+
+QWidget* TDesktopPlatform::front_window() {
+  QWidget* box = QApplication::activeModalWidget();
+  return box ? box : &window_;
+}
 
 }  // namespace zephyl

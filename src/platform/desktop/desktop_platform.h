@@ -55,6 +55,9 @@ class TDesktopPlatform : public TPlatform {
   void round();
   void dispatch(const TInput& input);
   void compose();
+  // What a new box stands above.
+  QWidget* front_window();
+  class TBoxOpen;
 
   std::string folder_;
   TInputQueue queue_;
@@ -63,6 +66,8 @@ class TDesktopPlatform : public TPlatform {
   TClickSound click_;
   bool paint_requested_ = true;
   bool working_ = false;  // calculator code is on the stack
+  int boxes_open_ = 0;    // dialogs and message boxes, each above the one before
+  bool composing_ = false;
   bool stopped_ = false;
   bool cancel_let_pass_ = false;
   bool wait_cursor_ = false;

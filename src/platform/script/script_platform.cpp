@@ -104,6 +104,7 @@ bool TScriptPlatform::ask_question(const char*, const char*) {
 void TScriptPlatform::run_dialog(TDialog& dialog) {
   dialog.tell(DIALOG_OPENED);
   if (dialog.closed()) return;
+  before_dialog(dialog);
   dialogs.push_back({&dialog, elapsed});
   if (work_dialog) work_dialog(dialog);
   cancel_dialog(dialog);

@@ -51,6 +51,8 @@ class TScriptPlatform : public TPlatform {
   std::function<void(const TDialog& dialog)> work_dialog;
   // The one that the user works; null if none is open.
   TDialog* front_dialog() const { return dialogs.empty() ? nullptr : dialogs.back().dialog; }
+  // A dialog has been told that it opens, and is about to wait.
+  virtual void before_dialog(TDialog&) {}
   // Moves the clock; the dialog in front is told of the ticks that pass.
   void advance(std::uint64_t milliseconds);
 

@@ -18,13 +18,13 @@ namespace {
 constexpr int REFRESH_ROWS = 10;
 constexpr double BOUND = 3.0;
 
-// Whether each step is finer than what integers of 25 binary places tell apart. Pictures that fine have always been
-// computed without the bound.
+// Pictures of finer steps, which integers of 25 binary places can't tell apart, have no bound.
 constexpr double FINE_STEP = 3e-08;
 
 bool is_fine_part(double part) { return part != 0.0 && std::fabs(part) < FINE_STEP; }
 
-// True for points of the two large parts of the Mandelbrot set, the cardioid and the disc to its left, which never escape.
+// True for points of the two large parts of the Mandelbrot set, the cardioid and the disc to its left, which
+// never escape.
 bool inside_large_parts(double x, double y) {
   const double from_cusp = x - 0.25, y_squared = y * y;
   const double q = from_cusp * from_cusp + y_squared;
@@ -53,17 +53,14 @@ TEscapePicture julia_picture(const TValue& c) {
   return picture;
 }
 
-void scan_escape_row(const TEscapePicture& picture, int row, std::uint8_t* entries) {
-  static TEscapeBatch batch;
-  static std::uint8_t columns[TEscapeBatch::LIMIT];
-  const double y = row * picture.dy + picture.top;
-  batch.count = 0;
-  for (int column = 0; column < PLOT_WIDTH; ++column) {
-    const double x = column * picture.dx + picture.left;
-    entries[column] = ESCAPE_ROUNDS;
-    if (picture.all_outside || (picture.bounded && (std::fabs(x) >= BOUND || std::fabs(y) >= BOUND))) continue;
-    entries[column] = 0;
-    if (!picture.is_julia && inside_large_parts(x, y)) continue;
+namespace {
+
+// The points of a row that have to be counted, with their columns.
+struct TRowPoints {
+  TEscapeBatch batch;
+  std::uint8_t columns[TEscapeBatch::LIMIT];
+
+  void add(const TEscapePicture& picture, int column, double x, double y) {
     const int i = batch.count++;
     columns[i] = static_cast<std::uint8_t>(column);
     batch.z_re[i] = picture.is_julia ? x : 0.0;
@@ -71,8 +68,27 @@ void scan_escape_row(const TEscapePicture& picture, int row, std::uint8_t* entri
     batch.c_re[i] = picture.is_julia ? picture.c.re : x;
     batch.c_im[i] = picture.is_julia ? picture.c.im : y;
   }
-  count_escape_rounds(batch);
-  for (int i = 0; i < batch.count; ++i) entries[columns[i]] = static_cast<std::uint8_t>(ESCAPE_ROUNDS - batch.rounds[i]);
+};
+
+}  // namespace
+
+void scan_escape_row(const TEscapePicture& picture, int row, std::uint8_t* entries) {
+  static TRowPoints points;
+  std::fill(entries, entries + PLOT_WIDTH, std::uint8_t{ESCAPE_ROUNDS});
+  const double y = row * picture.dy + picture.top;
+  if (picture.all_outside || (picture.bounded && std::fabs(y) >= BOUND)) return;
+  points.batch.count = 0;
+  for (int column = 0; column < PLOT_WIDTH; ++column) {
+    const double x = column * picture.dx + picture.left;
+    if (picture.bounded && std::fabs(x) >= BOUND) continue;
+    if (!picture.is_julia && inside_large_parts(x, y))
+      entries[column] = 0;
+    else
+      points.add(picture, column, x, y);
+  }
+  count_escape_rounds(points.batch);
+  for (int i = 0; i < points.batch.count; ++i)
+    entries[points.columns[i]] = static_cast<std::uint8_t>(ESCAPE_ROUNDS - points.batch.rounds[i]);
 }
 
 namespace {

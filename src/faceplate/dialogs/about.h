@@ -1,0 +1,8 @@
+// Dialog 160, "About".
+#pragma once
+
+namespace zephyl {
+
+void show_about();
+
+}  // namespace zephyl
