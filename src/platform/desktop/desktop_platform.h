@@ -53,6 +53,7 @@ class TDesktopPlatform : public TPlatform {
   void take(const TInput& input);
   bool close_wished();
   void wake();
+  bool work();
   void round();
   void dispatch(const TInput& input);
   void compose();
