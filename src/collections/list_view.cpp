@@ -1,5 +1,6 @@
 #include "collections/list_view.h"
 
+#include "engine/backup.h"
 #include "engine/hooks.h"
 #include "engine/memory.h"
 
@@ -31,6 +32,7 @@ void clear_list_item(int item) {
 }  // namespace
 
 void register_list_views() {
+  register_backup_of<&list_view>();
   if (clear_other_item) return;
   clear_other_item = hooks.clear_item;
   hooks.clear_item = clear_list_item;

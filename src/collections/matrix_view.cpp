@@ -1,5 +1,6 @@
 #include "collections/matrix_view.h"
 
+#include "engine/backup.h"
 #include "engine/hooks.h"
 #include "engine/memory.h"
 
@@ -27,6 +28,7 @@ void clear_matrix_item(int item) {
 }  // namespace
 
 void register_matrix_views() {
+  register_backup_of<&matrix_view>();
   if (clear_other_item) return;
   clear_other_item = hooks.clear_item;
   hooks.clear_item = clear_matrix_item;

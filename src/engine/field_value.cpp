@@ -18,6 +18,8 @@ constexpr int FIELD_DECIMALS = 10;
 
 void run(const TExpression& expression) {
   static TCompiled compiled;
+  clear_error();
+  if (expression.count == 0) return report_error(ERR_SYNTAX);
   if (!compile_expression(expression, compiled)) return;
   back_up_for(compiled);
   run_sample(compiled);

@@ -7,6 +7,7 @@
 #include "faceplate/entry_line_view.h"
 #include "faceplate/gif.h"
 #include "faceplate/images.h"
+#include "faceplate/program_list.h"
 #include "faceplate/indicators.h"
 #include "faceplate/resources.h"
 #include "faceplate/result_line_view.h"
@@ -130,6 +131,7 @@ void paint_program_edit(TSurface& surface) {
   surface.fill(PROGRAM_LINE_RECT, display_colour());
   surface.fill(PROGRAM_LIST_RECT, display_colour());
   paint_upper_line(surface);
+  paint_program_list(surface);
 }
 
 void paint_periodic(TSurface& surface) { draw_gif_resource(surface, "periodic_gif", 0, 0, false, false); }

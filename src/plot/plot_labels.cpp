@@ -9,6 +9,7 @@
 #include "engine/state.h"
 #include "plot/custom_function.h"
 #include "plot/plot_grid.h"
+#include "plot/plot_mapping.h"
 #include "plot/plot_variables.h"
 #include "plot/small_numbers.h"
 
@@ -59,12 +60,39 @@ int draw_small_word(TSurface& surface, const char* name, int left, int top) {
   return left + word->width;
 }
 
-int draw_small_line(TSurface& surface, const char* name, double value, int left, int top) {
+namespace {
+
+int draw_plain_line(TSurface& surface, const char* name, double value, int left, int top) {
   left = draw_small_word(surface, name, left, top);
   if (value == undefined_value) return draw_small_word(surface, small_error_word(plot_error_code), left, top);
   char text[RESULT_TEXT_SIZE];
   format_real(text, value, FORMAT_FLOAT, DECIMALS, false);
   return draw_small_number(surface, text, left, top, false, true);
+}
+
+// The ink of a line with a white edge around it, so that it can be read on grids and curves.
+void lay_over(TSurface& surface, const TSurface& line, int width, int left, int top) {
+  const auto is_ink = [&line](int x, int y) {
+    return x >= 0 && y >= 0 && x < line.width() && y < line.height() && line.row(y)[x] == BLACK;
+  };
+  const auto near_ink = [&](int x, int y) { return is_ink(x, y - 1) || is_ink(x, y) || is_ink(x, y + 1); };
+  for (int y = -1; y <= LINE_HEIGHT; ++y)
+    for (int x = -1; x <= width; ++x) {
+      if (is_ink(x, y))
+        surface.set_pixel(left + x, top + y, BLACK);
+      else if (near_ink(x - 1, y) || near_ink(x, y) || near_ink(x + 1, y))
+        surface.set_pixel(left + x, top + y, WHITE);
+    }
+}
+
+}  // namespace
+
+int draw_small_line(TSurface& surface, const char* name, double value, int left, int top) {
+  static TSurface line(PLOT_WIDTH, LINE_HEIGHT);
+  line.fill({0, 0, PLOT_WIDTH - 1, LINE_HEIGHT - 1}, WHITE);
+  const int width = draw_plain_line(line, name, value, 0, 0);
+  lay_over(surface, line, width, left, top);
+  return left + width;
 }
 
 void draw_view_labels(TSurface& surface) {

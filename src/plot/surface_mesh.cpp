@@ -102,7 +102,7 @@ void start_points(TMesh& mesh, int rows, int columns) {
 }
 
 // One slot over the whole mesh.
-void sample_slot(TMesh& mesh, int first_slot, int k, const std::function<void(int row)>& row_done) {
+void sample_slot(TMesh& mesh, int first_slot, int k, TRowListener& listener) {
   const TSamples u = mesh_samples(plot_variables.t), v = mesh_samples(plot_variables.v);
   const TFold fold = current_fold();
   for (int row = 0; row < mesh.rows; ++row) {
@@ -112,7 +112,7 @@ void sample_slot(TMesh& mesh, int first_slot, int k, const std::function<void(in
       fold_in(mesh.points[row][column], k, w, fold);
       grow(samples_are_quick());
     }
-    if (k == 2) row_done(row);
+    if (k == 2) listener.row_done(row);
   }
 }
 
@@ -125,11 +125,11 @@ void limit_surface_variables() {
   limit_step(plot_variables.v);
 }
 
-void sample_surface(TMesh& mesh, int slot, const std::function<void(int row)>& row_done) {
+void sample_surface(TMesh& mesh, int slot, TRowListener& listener) {
   start_points(mesh, mesh_samples(plot_variables.t).count, mesh_samples(plot_variables.v).count);
   for (int k = 0; k < 3 && !plot_cancelled; ++k) {
     custom_function(PLOT_3D, 0.0, 0.0, slot + k, PHASE_BEGIN);
-    sample_slot(mesh, slot, k, row_done);
+    sample_slot(mesh, slot, k, listener);
     custom_function(PLOT_3D, 0.0, 0.0, slot + k, PHASE_END);
   }
 }

@@ -1,8 +1,6 @@
 // The samples of the two surfaces of a 3D plot, as points in space.
 #pragma once
 
-#include <functional>
-
 #include "plot/plot_kinds.h"
 
 namespace zephyl {
@@ -27,9 +25,17 @@ struct TMesh {
 // Forces the steps of both parameters, and writes them back, into the limits of a mesh, and zScale into those of a plot.
 void limit_surface_variables();
 
-// Fills the mesh of the surface whose first slot is `slot`. row_done: called when a row has all its coordinates, which
-// after a cancel the rest of the rows don't get.
-void sample_surface(TMesh& mesh, int slot, const std::function<void(int row)>& row_done);
+// Is told of each row that has all its coordinates, which after a cancel the rest of the rows don't get.
+class TRowListener {
+ public:
+  virtual void row_done(int row) = 0;
+
+ protected:
+  ~TRowListener() = default;
+};
+
+// Fills the mesh of the surface whose first slot is `slot`.
+void sample_surface(TMesh& mesh, int slot, TRowListener& listener);
 
 // The meshes of the last full plot, by surface; one that isn't in use has no rows.
 TMesh& surface_mesh(int surface);

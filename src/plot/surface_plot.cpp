@@ -24,28 +24,36 @@ constexpr int SLOTS_PER_SURFACE = 3;
 // --- Axes
 
 struct TAxis {
-  double x, y, z;
+  double x, y, z;  // its end
+  double column = 0.0;  // of the end, on the picture
+  double row = 0.0;
 };
 
-void draw_axis(TSurface& target, int axis, TAxis end, const TRotation& rotation) {
-  double x = 0.0, y = 0.0, column, row, end_column, end_row;
-  rotation.turn(x, y, 0.0);
-  project(x, y, column, row);
-  rotation.turn(end.x, end.y, end.z);
-  project(end.x, end.y, end_column, end_row);
-  if (end_column == undefined_value) return;
-  clipped_line(target, column, row, end_column, end_row, AXIS_COLOUR);
-  const TPoint pixel = {static_cast<int>(end_column), static_cast<int>(end_row)};
-  if (PLOT_AREA.contains(pixel.x, pixel.y)) draw_axis_letter(target, axis, pixel, AXIS_COLOUR);
+void project_end(TAxis& axis, const TRotation& rotation) {
+  rotation.turn(axis.x, axis.y, axis.z);
+  project(axis.x, axis.y, axis.column, axis.row);
 }
 
+void draw_letter(TSurface& target, int number, const TAxis& axis) {
+  if (axis.column == undefined_value) return;
+  const TPoint end = {static_cast<int>(axis.column), static_cast<int>(axis.row)};
+  if (PLOT_AREA.contains(end.x, end.y)) draw_axis_letter(target, number, end, AXIS_COLOUR);
+}
+
+// All lines before the letters, which stand on a ground of their own.
 void draw_axes(TSurface& target, const TRotation& rotation) {
   if (!plot_variables.displayGrid) return;
   const double x = plot_variables.xMax - plot_variables.xMin, y = plot_variables.yMax - plot_variables.yMin;
-  // A height that keeps the letters apart, whatever the ranges are.
+  // The height of the z axis has no range to go by; it follows from the other two.
   const double z = std::fabs(std::sin(y) * y) + std::fabs(std::cos(x) * x);
-  const TAxis ends[] = {{x, 0.0, 0.0}, {0.0, y, 0.0}, {0.0, 0.0, z}};
-  for (int axis = 0; axis < 3; ++axis) draw_axis(target, axis, ends[axis], rotation);
+  TAxis axes[] = {{x, 0.0, 0.0}, {0.0, y, 0.0}, {0.0, 0.0, z}};
+  TAxis origin = {0.0, 0.0, 0.0};
+  project_end(origin, rotation);
+  for (TAxis& axis : axes) {
+    project_end(axis, rotation);
+    clipped_line(target, origin.column, origin.row, axis.column, axis.row, AXIS_COLOUR);
+  }
+  for (int number = 0; number < 3; ++number) draw_letter(target, number, axes[number]);
 }
 
 // --- Wires
@@ -110,17 +118,32 @@ class TSurfaceWires {
   int stride_;
 };
 
+// The wires of a surface whose samples are still being taken.
+class TGrowingWires final : public TRowListener {
+ public:
+  TGrowingWires(TSurfaceWires& wires, bool traced) : wires_(wires), traced_(traced) {}
+  void row_done(int row) override {
+    wires_.draw_row(row, traced_);
+    ++rows_;
+  }
+  int rows() const { return rows_; }
+
+ private:
+  TSurfaceWires& wires_;
+  bool traced_;
+  int rows_ = 0;
+};
+
+// Of a plot that is cancelled what had come stays.
 void draw_full_surface(TSurface& target, int surface, const TRotation& rotation) {
   const int slot = surface * SLOTS_PER_SURFACE;
-  surface_mesh(surface).rows = 0;
+  TMesh& mesh = surface_mesh(surface);
+  mesh.rows = 0;
   if (!plot_in_use(PLOT_3D, slot) || plot_cancelled) return;
   TSurfaceWires wires(target, surface, rotation, 1);
-  int rows_drawn = 0;
-  sample_surface(surface_mesh(surface), slot, [&](int row) {
-    wires.draw_row(row, slot == trace_function());
-    ++rows_drawn;
-  });
-  surface_mesh(surface).rows = rows_drawn;  // of a plot that was cancelled only what had come
+  TGrowingWires growing(wires, slot == trace_function());
+  sample_surface(mesh, slot, growing);
+  mesh.rows = growing.rows();
   wires.draw_columns();
 }
 
@@ -134,9 +157,9 @@ void draw_fast_surface(TSurface& target, int surface, const TRotation& rotation)
 
 void draw_3d_plot(TSurface& target, double offset_x, double offset_y, bool fast) {
   const TRotation rotation(offset_x, offset_y);
+  if (!fast) limit_surface_variables();
   draw_axes(target, rotation);
   if (!plots_enabled()) return;
-  if (!fast) limit_surface_variables();
   const int traced = trace_function() / SLOTS_PER_SURFACE;
   for (const int surface : {1 - traced, traced}) (fast ? draw_fast_surface : draw_full_surface)(target, surface, rotation);
 }

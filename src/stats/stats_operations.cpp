@@ -1,5 +1,6 @@
 // The operations over the statistics data: rx, ry, entStats(, getStatsX( and its siblings.
 
+#include "engine/backup.h"
 #include "engine/errors.h"
 #include "engine/hooks.h"
 #include "engine/memory.h"
@@ -83,6 +84,7 @@ void register_clearing() {
 }  // namespace
 
 void register_stats() {
+  register_backup_of<&stats>();
   hooks.statistics_value = stats_value;
   hooks.stats_variables_changed = expect_x_next;
   register_clearing();

@@ -1,5 +1,6 @@
 #include "tools/tvm_state.h"
 
+#include "engine/backup.h"
 #include "engine/system_variables.h"
 
 namespace zephyl {
@@ -38,6 +39,7 @@ void write_payment_at(int, double value) {
 }  // namespace
 
 void register_tvm_variables() {
+  register_backup_of<&tvm_state>();
   for (int number = VAR_TVM_N; number < VAR_TVM_PMT_AT; ++number) {
     system_variables[number].read = read_value;
     system_variables[number].write = write_value;

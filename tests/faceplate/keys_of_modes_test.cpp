@@ -13,7 +13,6 @@
 #include "faceplate/face.h"
 #include "faceplate/key_maps.h"
 #include "faceplate/key_path.h"
-#include "faceplate/later_keys.h"
 #include "faceplate/modes.h"
 #include "plot/plot_variables.h"
 #include "plot/zoom_locks.h"
@@ -490,23 +489,6 @@ TEST_F(keys_of_all_modes, each_map_names_the_rows_of_its_table) {
               {periodic_key_map, periodic_keys},  {plot_key_map, plot_keys},
               {matrix_key_map, list_matrix_keys}, {list_key_map, list_matrix_keys}};
   for (const auto& row : rows) EXPECT_EQ(row.map.rows[row.map.count - 1].last + 1, row.table.count);
-}
-
-TEST_F(keys_of_all_modes, a_key_without_its_subsystem_changes_nothing) {
-  for (int mode = BASE_MODE; mode <= LIST_MODE; ++mode)
-    for (const bool blue : {false, true}) {
-      state.calcMode = mode;
-      for (int key = 0; key < shown_key_table().count; ++key) {
-        if (!is_later_key(mode, key, blue ? MEANING_BLUE : MEANING_PLAIN)) continue;
-        state.blue_shift = blue;
-        tap_key(key);
-        EXPECT_EQ(state.calcMode, mode) << "key " << key;
-        EXPECT_EQ(codes(), "") << "mode " << mode << " key " << key;
-        EXPECT_EQ(shifts(), "");
-      }
-    }
-  EXPECT_TRUE(platform_.dialogs.empty());
-  EXPECT_EQ(message(), "none");
 }
 
 TEST_F(keys_of_all_modes, shifts_stay_until_they_are_used) {

@@ -12,6 +12,7 @@
 #include "faceplate/face.h"
 #include "faceplate/indicators.h"
 #include "faceplate/key_feedback.h"
+#include "plot/plot.h"
 #include "plot/plot_variables.h"
 #include "programs/run_state.h"
 
@@ -86,11 +87,12 @@ TEST_F(screens, brightness_leaves_the_display_alone) {
   EXPECT_EQ(screen().pixel(120, 45), rgb(210, 203, 158));
 }
 
-TEST_F(screens, a_plot_has_a_white_surface) {
-  plot_variables.displayGrid = 0;
+TEST_F(screens, a_plot_lies_in_the_display) {
   state.calcMode = PLOT_MODE;
   paint();
-  EXPECT_EQ(screen().pixel(120, 100), WHITE);
+  const TSurface& plot = shown_plot();
+  for (int y = 0; y < PLOT_HEIGHT; ++y)
+    for (int x = 0; x < PLOT_WIDTH; ++x) ASSERT_EQ(screen().pixel(PLOT_LEFT + x, PLOT_TOP + y), plot.pixel(x, y));
 }
 
 TEST_F(screens, the_fourth_tab_and_the_dynamic_key_follow_the_dynamic_mode) {

@@ -10,11 +10,14 @@
 //   # a remark
 //
 // A block begins with a calculator that has just started, a block ```zephyl continued goes on with the one of
-// the block before it. A word in angle brackets stands for an answer, as in a transcript.
+// the block before it. A block ```zephyl program NAME holds the statements of a program, as the program screen lists
+// them, that every calculator of the page has in its folder. A word in angle brackets stands for an answer, as in a transcript.
 #pragma once
 
 #include <string>
 #include <vector>
+
+#include "scripts/transcript.h"
 
 namespace zephyl {
 
@@ -31,6 +34,7 @@ using TManualSession = std::vector<TManualExample>;
 struct TManualPage {
   std::string path;
   std::vector<TManualSession> sessions;
+  std::vector<TTranscriptProgram> programs;
   // "PATH:LINE: what is wrong" for what can't be read.
   std::vector<std::string> faults;
 };
@@ -39,6 +43,7 @@ TManualPage read_manual_page(const std::string& path);
 
 // Gives the examples to a calculator that starts afresh in an empty folder of its own, and prints each one
 // whose answer is another than the page says, beginning with "PATH:LINE:". Returns how many there are.
-int count_failing_examples(const std::string& path, const TManualSession& session);
+int count_failing_examples(const std::string& path, const TManualSession& session,
+                           const std::vector<TTranscriptProgram>& programs = {});
 
 }  // namespace zephyl
