@@ -1,5 +1,5 @@
-// Random drawing commands and fractals with random and extreme arguments, in random views. Each command is a byte that
-// chooses it, and a byte an argument: a number of the table below, or eight bytes as they are.
+// Random drawing commands and fractals with random and extreme arguments, in random views. Each command is a
+// byte that chooses it, and a byte an argument: a number of the table below, or eight bytes as they are.
 
 #include <cstdint>
 #include <cstring>
@@ -17,16 +17,25 @@ namespace {
 
 using namespace zephyl;
 
-constexpr TOp_Code scalar_commands[] = {OP_LINE,    OP_RECT,      OP_FILL_RECT, OP_POINT,     OP_CIRCLE,
-                                        OP_ARC,     OP_FILL_CIRC, OP_ELLIPSE,   OP_FILL_ELLIP, OP_MOVE_TO,
+constexpr TOp_Code scalar_commands[] = {OP_LINE,    OP_RECT,      OP_FILL_RECT, OP_POINT,       OP_CIRCLE,
+                                        OP_ARC,     OP_FILL_CIRC, OP_ELLIPSE,   OP_FILL_ELLIP,  OP_MOVE_TO,
                                         OP_LINE_TO, OP_COLOR,     OP_CLR_DRAW,  OP_UPDATE_DRAW, OP_INIT_DRAW,
                                         OP_JULIA,   OP_MANDELBROT};
 constexpr int SCALAR_COUNT = static_cast<int>(std::size(scalar_commands));
-enum TOtherCommand { DRAW_LIST_Y = SCALAR_COUNT, DRAW_LIST_XY, DRAW_STRING, L_SYSTEM, IFS_FRACTAL, VIEW, COMMAND_COUNT };
+enum TOtherCommand {
+  DRAW_LIST_Y = SCALAR_COUNT,
+  DRAW_LIST_XY,
+  DRAW_STRING,
+  L_SYSTEM,
+  IFS_FRACTAL,
+  VIEW,
+  COMMAND_COUNT
+};
 
-constexpr double extremes[] = {0.0,   -0.0,   1.0,    -1.0,   2.0,   0.5,    3.0,   10.0,   -10.0, 90.0,  1e308, -1e308,
-                               1e300, -1e300, 1e-300, 5e-324, 1e100, -1e100, 1e16,  100.0,  3000,  -3000, 1e9,   2147483648.0,
-                               0.1,   25.0,   60.0,   1e-8,   3e-8,  7.0,    105.0, undefined_value};
+constexpr double extremes[] = {0.0,   -0.0,   1.0,   -1.0,   2.0,   0.5,    3.0,    10.0,
+                               -10.0, 90.0,   1e308, -1e308, 1e300, -1e300, 1e-300, 5e-324,
+                               1e100, -1e100, 1e16,  100.0,  3000,  -3000,  1e9,    2147483648.0,
+                               0.1,   25.0,   60.0,  1e-8,   3e-8,  7.0,    105.0,  undefined_value};
 constexpr int EXTREME_COUNT = static_cast<int>(std::size(extremes));
 
 class TInput {
@@ -77,7 +86,8 @@ void fill_string(TInput& input, TString& string) {
   int at = 0;
   for (; at < length && !input.empty(); ++at) {
     const int code = input.byte();
-    string.text[at] = static_cast<char>(code < 240 ? letters[code % static_cast<int>(sizeof letters - 1)] : code);
+    string.text[at] =
+        static_cast<char>(code < 240 ? letters[code % static_cast<int>(sizeof letters - 1)] : code);
   }
   string.text[at] = 0;
 }

@@ -1,5 +1,5 @@
-// The texts that are built into the program: every file under resources/texts/, found by its path there without the
-// extension ("samples" for resources/texts/samples.txt). Lines end in CR LF.
+// The texts that are built into the program: every file under resources/texts/, found by its path there
+// without the extension ("samples" for resources/texts/samples.txt). Lines end in CR LF.
 #pragma once
 
 #include <cstddef>

@@ -37,7 +37,8 @@ void TSurface::blit(int x, int y, int width, int height, const TSurface& source,
   const bool upwards = &source == this && sy < y;
   for (int i = 0; i < height; ++i) {
     const int line = upwards ? height - 1 - i : i;
-    std::memmove(row(y + line) + x, source.row(sy + line) + sx, static_cast<std::size_t>(width) * sizeof(TColour));
+    std::memmove(row(y + line) + x, source.row(sy + line) + sx,
+                 static_cast<std::size_t>(width) * sizeof(TColour));
   }
 }
 

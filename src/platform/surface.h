@@ -20,7 +20,8 @@ constexpr int blue_of(TColour colour) { return static_cast<int>(colour & 255u); 
 
 // Five bits of red in the highest places, six of green, five of blue; and back, so that full stays full.
 constexpr std::uint16_t pack_565(TColour colour) {
-  return static_cast<std::uint16_t>((red_of(colour) >> 3) << 11 | (green_of(colour) >> 2) << 5 | blue_of(colour) >> 3);
+  return static_cast<std::uint16_t>((red_of(colour) >> 3) << 11 | (green_of(colour) >> 2) << 5 |
+                                    blue_of(colour) >> 3);
 }
 
 constexpr TColour WHITE = rgb(255, 255, 255);
@@ -48,7 +49,9 @@ class TSurface {
   int height() const { return height_; }
   // Row by row from the top, width() pixels a row.
   const TColour* pixels() const { return pixels_.data(); }
-  TColour* row(int y) { return pixels_.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(width_); }
+  TColour* row(int y) {
+    return pixels_.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(width_);
+  }
   const TColour* row(int y) const {
     return pixels_.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(width_);
   }
@@ -65,8 +68,8 @@ class TSurface {
   void blit_glyph(const TBitmap& glyph, int x, int y, TColour ink = BLACK, bool inverted = false,
                   TColour paper = WHITE);
 
-  // One pixel wide, both ends painted, the same pixels in either direction. Coordinates of any size; those beyond
-  // 10^9 count as 10^9.
+  // One pixel wide, both ends painted, the same pixels in either direction. Coordinates of any size; those
+  // beyond 10^9 count as 10^9.
   void line(TPoint from, TPoint to, TColour colour);
   // The same line, of which only the pixels within `clip` are painted.
   void line(TPoint from, TPoint to, TColour colour, const TRect& clip);
@@ -76,8 +79,8 @@ class TSurface {
   void frame(const TRect& rect, TColour colour);
   // The bitmap over and over, as tiles that begin at the surface's origin.
   void fill_pattern(const TRect& rect, const TBitmap& tile, TColour ink, TColour paper);
-  // The ellipse that fills the box: the pixels whose centres lie in it, or the outermost of these. An empty box
-  // paints nothing; coordinates are limited as those of lines.
+  // The ellipse that fills the box: the pixels whose centres lie in it, or the outermost of these. An empty
+  // box paints nothing; coordinates are limited as those of lines.
   void ellipse(const TRect& box, TColour colour);
   void fill_ellipse(const TRect& box, TColour colour);
 

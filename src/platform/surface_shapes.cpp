@@ -1,5 +1,5 @@
-// Lines, frames, patterns and ellipses on a surface. What lies outside is skipped by arithmetic, so that a shape
-// of any size costs no more than the surface's own pixels.
+// Lines, frames, patterns and ellipses on a surface. What lies outside is skipped by arithmetic, so that a
+// shape of any size costs no more than the surface's own pixels.
 
 #include <algorithm>
 #include <cmath>
@@ -23,7 +23,8 @@ TRect limited(const TRect& rect) {
 }
 
 TRect common_part(const TRect& a, const TRect& b) {
-  return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right), std::min(a.bottom, b.bottom)};
+  return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
+          std::min(a.bottom, b.bottom)};
 }
 
 std::int64_t floor_quotient(std::int64_t a, std::int64_t b) { return a >= 0 ? a / b : -((b - 1 - a) / b); }
@@ -70,11 +71,13 @@ void TSurface::line(TPoint from, TPoint to, TColour colour, const TRect& clip) {
   if (std::abs(to.x - from.x) >= std::abs(to.y - from.y)) {
     if (from.x > to.x) std::swap(from, to);
     for (TRun run(from.x, to.x, from.y, to.y, area.left, area.right); run.first <= run.last; run.step())
-      if (run.other >= area.top && run.other <= area.bottom) row(static_cast<int>(run.other))[run.first] = colour;
+      if (run.other >= area.top && run.other <= area.bottom)
+        row(static_cast<int>(run.other))[run.first] = colour;
   } else {
     if (from.y > to.y) std::swap(from, to);
     for (TRun run(from.y, to.y, from.x, to.x, area.top, area.bottom); run.first <= run.last; run.step())
-      if (run.other >= area.left && run.other <= area.right) row(static_cast<int>(run.first))[run.other] = colour;
+      if (run.other >= area.left && run.other <= area.right)
+        row(static_cast<int>(run.first))[run.other] = colour;
   }
 }
 
@@ -94,7 +97,8 @@ void TSurface::frame(const TRect& rect, TColour colour) {
 void TSurface::fill_pattern(const TRect& rect, const TBitmap& tile, TColour ink, TColour paper) {
   const TRect area = common_part(rect, {0, 0, width_ - 1, height_ - 1});
   for (int y = area.top; y <= area.bottom; ++y)
-    for (int x = area.left; x <= area.right; ++x) row(y)[x] = tile.ink(x % tile.width, y % tile.height) ? ink : paper;
+    for (int x = area.left; x <= area.right; ++x)
+      row(y)[x] = tile.ink(x % tile.width, y % tile.height) ? ink : paper;
 }
 
 namespace {
@@ -103,7 +107,8 @@ struct TSpan {
   int left, right;  // empty when left is above right
 };
 
-// The pixels of a row of the box whose centres lie in its ellipse. Distances are counted in half pixels from the centre.
+// The pixels of a row of the box whose centres lie in its ellipse. Distances are counted in half pixels from
+// the centre.
 TSpan ellipse_span(const TRect& box, int y) {
   const double width = box.width(), height = box.height();
   const double from_centre = std::fabs(2.0 * y - box.top - box.bottom);

@@ -36,7 +36,8 @@ void reset_drawing() {
 
 void draw_line(double x1, double y1, double x2, double y2) {
   const TPlotMapping& view = plot_mapping();
-  clipped_line(drawing_bitmap(), view.column(x1), view.row(y1), view.column(x2), view.row(y2), drawing.draw_colour);
+  clipped_line(drawing_bitmap(), view.column(x1), view.row(y1), view.column(x2), view.row(y2),
+               drawing.draw_colour);
 }
 
 void draw_point(double x, double y) {

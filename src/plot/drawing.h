@@ -1,5 +1,5 @@
-// The drawing layer: a picture behind all plots that programs and expressions paint on. It holds pixels, not shapes: a
-// change of the view doesn't move what was drawn. It is kept until it is cleared.
+// The drawing layer: a picture behind all plots that programs and expressions paint on. It holds pixels, not
+// shapes: a change of the view doesn't move what was drawn. It is kept until it is cleared.
 #pragma once
 
 #include "engine/values.h"
@@ -39,8 +39,8 @@ void move_pen(double x, double y);
 // A line from the pen, unless that was never set, then the pen is there.
 void draw_line_to(double x, double y);
 
-// The layer was painted on: it shows at once in PLOT_MODE, and with the plot's next drawing elsewhere. In a program
-// that has used updateDraw(), with the next one.
+// The layer was painted on: it shows at once in PLOT_MODE, and with the plot's next drawing elsewhere. In a
+// program that has used updateDraw(), with the next one.
 void drawing_changed();
 // Shows what was drawn in any case.
 void update_drawing();

@@ -35,7 +35,8 @@ TAxisFit fit_to_view(const ListRecord& list, double min, double max) {
 }
 
 bool real_lists(const TListOperands& operands) {
-  if (!is_complex_list(*operands.first) && !(operands.second && is_complex_list(*operands.second))) return true;
+  if (!is_complex_list(*operands.first) && !(operands.second && is_complex_list(*operands.second)))
+    return true;
   report_error(ERR_DATA_TYPE);
   return false;
 }
@@ -52,7 +53,8 @@ TAxisFit y_fit(const ListRecord& list, bool fitted) {
 void draw_list_y(const TFamilyCall& call) {
   TListOperands operands;
   int fitted;
-  if (!read_list_operands(call, operands) || !real_lists(operands) || !read_switch(call.numbers[0], fitted)) return;
+  if (!read_list_operands(call, operands) || !real_lists(operands) || !read_switch(call.numbers[0], fitted))
+    return;
   const ListRecord& list = *operands.first;
   const TAxisFit fit = y_fit(list, fitted != 0);
   const double left = plot_variables.xMin, width = plot_variables.xMax - plot_variables.xMin;

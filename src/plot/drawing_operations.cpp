@@ -1,5 +1,5 @@
-// The commands of the drawing layer that paint no shape: colours, pen, clearing, showing, and the set-up of the plot
-// screen for drawing.
+// The commands of the drawing layer that paint no shape: colours, pen, clearing, showing, and the set-up of
+// the plot screen for drawing.
 
 #include "plot/drawing_operations.h"
 

@@ -36,7 +36,8 @@ void fill_rectangle(double x1, double y1, double x2, double y2) {
   drawing_bitmap().fill(pixel_box(x1, y1, x2, y2), drawing.draw_colour);
 }
 
-// The box that an ellipse fills: one row less than what lies between its corners. A negative radius turns it over.
+// The box that an ellipse fills: one row less than what lies between its corners. A negative radius turns it
+// over.
 TRect ellipse_box(double x, double y, double x_radius, double y_radius) {
   TRect box = pixel_box(x - x_radius, y - y_radius, x + x_radius, y + y_radius);
   ++box.top;
@@ -109,7 +110,8 @@ void draw_arc(const TArc& arc) {
 }
 
 void arc_command(const TScalarCall& call) {
-  TArc arc{call.args[0].re, call.args[1].re, call.args[2].re, to_radians(call.args[3].re), to_radians(call.args[4].re)};
+  TArc arc{call.args[0].re, call.args[1].re, call.args[2].re, to_radians(call.args[3].re),
+           to_radians(call.args[4].re)};
   if (arc.start > arc.end) std::swap(arc.start, arc.end);
   if (arc.end - arc.start >= FULL_TURN) {
     arc.start = 0.0;

@@ -38,8 +38,8 @@ int outcode(double x, double y) {
   return vertical | horizontal;
 }
 
-// Moves the end (x, y), which lies beyond the edges of `code`, along the line onto the first of them. Reckoned from the
-// other end, which may be much nearer.
+// Moves the end (x, y), which lies beyond the edges of `code`, along the line onto the first of them.
+// Reckoned from the other end, which may be much nearer.
 void move_to_edge(int code, double& x, double& y, double other_x, double other_y) {
   if (code & (PAST_BOTTOM | PAST_TOP)) {
     const double edge = code & PAST_BOTTOM ? PLOT_AREA.bottom : PLOT_AREA.top;
@@ -60,8 +60,8 @@ double whole_pixel(double coordinate) {
   return std::trunc(std::clamp(coordinate, -limit, limit));
 }
 
-// Cuts the line to PLOT_AREA (Cohen and Sutherland); false if nothing of it lies there. Each end is moved twice at most,
-// but for rounding at a corner.
+// Cuts the line to PLOT_AREA (Cohen and Sutherland); false if nothing of it lies there. Each end is moved
+// twice at most, but for rounding at a corner.
 bool cut_to_area(double& x1, double& y1, double& x2, double& y2) {
   constexpr int rounds = 8;
   int code1 = outcode(x1, y1), code2 = outcode(x2, y2);
@@ -78,7 +78,9 @@ bool cut_to_area(double& x1, double& y1, double& x2, double& y2) {
   return (code1 | code2) == INSIDE;
 }
 
-TPoint nearest_pixel(double x, double y) { return {static_cast<int>(std::lround(x)), static_cast<int>(std::lround(y))}; }
+TPoint nearest_pixel(double x, double y) {
+  return {static_cast<int>(std::lround(x)), static_cast<int>(std::lround(y))};
+}
 
 }  // namespace
 
@@ -117,12 +119,12 @@ bool clipped_line(TSurface& target, double x1, double y1, double x2, double y2, 
   // A line that ends near by is drawn between its own ends: being cut would move its pixels.
   constexpr double near_by = 1e8;
   if (!drawable(x1) || !drawable(y1) || !drawable(x2) || !drawable(y2)) return false;
-  double cut[4] = {whole_pixel(x1), whole_pixel(y1), whole_pixel(x2), whole_pixel(y2)};
-  double* ends = cut;
-  double whole[4];
-  std::copy(cut, cut + 4, whole);
+  const double whole[] = {whole_pixel(x1), whole_pixel(y1), whole_pixel(x2), whole_pixel(y2)};
+  double cut[] = {whole[0], whole[1], whole[2], whole[3]};
   if (!cut_to_area(cut[0], cut[1], cut[2], cut[3])) return false;
-  if (std::all_of(whole, whole + 4, [](double end) { return std::fabs(end) < near_by; })) ends = whole;
+  const bool is_near =
+      std::all_of(whole, whole + 4, [](double coordinate) { return std::fabs(coordinate) < near_by; });
+  const double* const ends = is_near ? whole : cut;
   target.line(nearest_pixel(ends[0], ends[1]), nearest_pixel(ends[2], ends[3]), colour, PLOT_AREA);
   return true;
 }

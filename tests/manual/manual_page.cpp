@@ -3,6 +3,9 @@
 #include <cstdio>
 #include <fstream>
 
+#include "manual/manual_pictures.h"
+#include "scripts/transcript.h"
+
 namespace zephyl {
 
 namespace {
@@ -93,11 +96,16 @@ std::string without_number(const std::string& answer) {
   return numbered ? answer.substr(blank + 1) : answer;
 }
 
+std::string command_of(const TManualExample& example, bool keep_pictures) {
+  if (!example.is_command) return "eval " + example.text;
+  return makes_picture(example.text) ? picture_command(example.text, keep_pictures) : example.text;
+}
+
 // An entry becomes two exchanges, its evaluation and the question for the error; a command is one.
-TTranscript transcript_of(const TManualSession& session) {
+TTranscript transcript_of(const TManualSession& session, bool keep_pictures) {
   TTranscript transcript;
   for (const TManualExample& example : session) {
-    const std::string command = example.is_command ? example.text : "eval " + example.text;
+    const std::string command = command_of(example, keep_pictures);
     transcript.exchanges.push_back({{}, example.line, command, example.shown, {}});
     if (!example.is_command) transcript.exchanges.push_back({{}, example.line, "error", {}, {}});
   }
@@ -131,14 +139,18 @@ TManualPage read_manual_page(const std::string& path) {
 }
 
 int count_failing_examples(const std::string& path, const TManualSession& session,
-                           const std::vector<TTranscriptProgram>& programs) {
-  TTranscript transcript = transcript_of(session);
+                           const std::vector<TTranscriptProgram>& programs, bool keep_pictures) {
+  TTranscript transcript = transcript_of(session, keep_pictures);
   transcript.programs = programs;
   if (!run_transcript(transcript)) return static_cast<int>(session.size());
   int failing = 0;
   auto exchange = transcript.exchanges.cbegin();
   for (const TManualExample& example : session) {
-    const std::vector<std::string> answered = (exchange++)->answered;
+    std::vector<std::string> answered = (exchange++)->answered;
+    if (example.is_command && makes_picture(example.text) && answered.empty() && !keep_pictures) {
+      const std::string fault = picture_fault(example.text);
+      if (!fault.empty()) answered.push_back(fault);
+    }
     std::string error;
     if (!example.is_command && !exchange->answered.empty()) error = exchange->answered[0];
     if (!example.is_command) ++exchange;

@@ -7,6 +7,7 @@
 //   error: Division by Zero    an entry that ends with this error
 //   $ list 0                   a command of zephyl-script,
 //   3: 1,0 2,0 3,0             and its answer
+//   $ png face.png             a picture, which must be the one in docs/pictures
 //   # a remark
 //
 // A block begins with a calculator that has just started, a block ```zephyl continued goes on with the one of
@@ -43,7 +44,8 @@ TManualPage read_manual_page(const std::string& path);
 
 // Gives the examples to a calculator that starts afresh in an empty folder of its own, and prints each one
 // whose answer is another than the page says, beginning with "PATH:LINE:". Returns how many there are.
+// keep_pictures: what is painted becomes the pictures in docs/pictures.
 int count_failing_examples(const std::string& path, const TManualSession& session,
-                           const std::vector<TTranscriptProgram>& programs = {});
+                           const std::vector<TTranscriptProgram>& programs = {}, bool keep_pictures = false);
 
 }  // namespace zephyl

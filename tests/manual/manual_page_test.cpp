@@ -77,6 +77,12 @@ TEST_F(manual_pages, a_block_begins_a_session_and_a_continued_one_goes_on) {
   EXPECT_EQ(read.sessions[1].size(), 1u);
 }
 
+TEST_F(manual_pages, a_picture_must_be_the_one_that_is_kept) {
+  EXPECT_NE(complaints("$ png never-kept.png\n").find("there is no picture"), std::string::npos);
+  // A picture of another page: the drawing screen, where this one shows the calculator.
+  EXPECT_NE(complaints("$ png drawing.png\n").find("the picture is another"), std::string::npos);
+}
+
 TEST_F(manual_pages, what_cannot_be_read_is_told_with_its_line) {
   EXPECT_EQ(page("```zephyl\n14\n```\n").faults.at(0), path_ + ":2: an answer without an entry");
   EXPECT_EQ(page("```zephyl contd\n```\n").faults.at(0),

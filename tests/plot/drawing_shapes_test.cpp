@@ -146,7 +146,8 @@ TEST_F(drawing_shape, an_arc_of_a_turn_or_more_is_a_circle) {
   settings.angleMode = DEGREES;
   eval("Arc(100,100,50,0,360)");
   const std::vector<TColour> circle = pixels();
-  for (const char* command : {"Arc(100,100,50,90,450)", "Arc(100,100,50,-1000,1000)", "Arc(100,100,50,400,0)"}) {
+  for (const char* command :
+       {"Arc(100,100,50,90,450)", "Arc(100,100,50,-1000,1000)", "Arc(100,100,50,400,0)"}) {
     eval("clrDraw()");
     eval(command);
     EXPECT_EQ(pixels(), circle) << command;

@@ -42,11 +42,26 @@ TEST_F(drawing_layer, begins_white_with_black_on_white) {
 }
 
 TEST_F(drawing_layer, every_command_is_zero) {
-  for (const char* command :
-       {"Line(0,0,1,1)", "Rect(0,0,1,1)", "fillRect(0,0,1,1)", "Point(0,0)", "moveTo(0,0)", "lineTo(1,1)",
-        "Circle(0,0,1)", "fillCirc(0,0,1)", "Ellipse(0,0,1,2)", "fillEllip(0,0,1,2)", "Arc(0,0,1,0,1)", "Color(0,0,0)",
-        "Color(0,0,0,1)", "clrDraw()", "updateDraw()", "drawString(\"a\",0,0)", "drawString(\"a\",0,0,1)",
-        "drawListY({1,2})", "drawListXY({1,2},{1,2})", "initDraw(0,0,0,0)"})
+  for (const char* command : {"Line(0,0,1,1)",
+                              "Rect(0,0,1,1)",
+                              "fillRect(0,0,1,1)",
+                              "Point(0,0)",
+                              "moveTo(0,0)",
+                              "lineTo(1,1)",
+                              "Circle(0,0,1)",
+                              "fillCirc(0,0,1)",
+                              "Ellipse(0,0,1,2)",
+                              "fillEllip(0,0,1,2)",
+                              "Arc(0,0,1,0,1)",
+                              "Color(0,0,0)",
+                              "Color(0,0,0,1)",
+                              "clrDraw()",
+                              "updateDraw()",
+                              "drawString(\"a\",0,0)",
+                              "drawString(\"a\",0,0,1)",
+                              "drawListY({1,2})",
+                              "drawListXY({1,2},{1,2})",
+                              "initDraw(0,0,0,0)"})
     EXPECT_EQ(eval(command), "0") << command;
 }
 
@@ -208,7 +223,8 @@ TEST_F(drawing_layer, initialising_sets_the_plot_screen_up) {
 
 TEST_F(drawing_layer, initialising_changes_nothing_where_a_switch_is_neither_0_nor_1) {
   eval("fillCirc(0,0,5)");
-  for (const char* wrong : {"initDraw(2,1,0,0)", "initDraw(1,-1,0,0)", "initDraw(1,1,0.5,0)", "initDraw(1,1,0,2)"})
+  for (const char* wrong :
+       {"initDraw(2,1,0,0)", "initDraw(1,-1,0,0)", "initDraw(1,1,0.5,0)", "initDraw(1,1,0,2)"})
     EXPECT_EQ(error_of(wrong), "Domain Error");
   EXPECT_TRUE(drawing_present());
   EXPECT_EQ(plot_variables.displayGrid, 1);
@@ -232,10 +248,11 @@ TEST_F(drawing_layer, a_list_draws_for_each_of_its_elements) {
 
 TEST_F(drawing_layer, huge_coordinates_are_no_error) {
   for (const char* command :
-       {"Line(-1e308,-1e308,1e308,1e308)", "Rect(-1e308,1e308,1e308,-1e308)", "fillRect(1e308,1e308,-1e308,-1e308)",
-        "Point(1e308,-1e308)", "moveTo(1e308,1e308)", "lineTo(-1e308,1e300)", "Circle(1e308,1e308,1e308)",
-        "fillCirc(0,0,1e308)", "Ellipse(0,0,-1e308,1e-308)", "fillEllip(1e308,0,1e308,1e308)",
-        "Arc(0,0,1e308,-1e308,1e308)", "Arc(1e308,0,1e308,1e300,1e300)", "drawListY({1e308,-1e308},1)",
+       {"Line(-1e308,-1e308,1e308,1e308)", "Rect(-1e308,1e308,1e308,-1e308)",
+        "fillRect(1e308,1e308,-1e308,-1e308)", "Point(1e308,-1e308)", "moveTo(1e308,1e308)",
+        "lineTo(-1e308,1e300)", "Circle(1e308,1e308,1e308)", "fillCirc(0,0,1e308)",
+        "Ellipse(0,0,-1e308,1e-308)", "fillEllip(1e308,0,1e308,1e308)", "Arc(0,0,1e308,-1e308,1e308)",
+        "Arc(1e308,0,1e308,1e300,1e300)", "drawListY({1e308,-1e308},1)",
         "drawListXY({1e308,-1e308},{-1e308,1e308},3)", "drawString(\"a\",1e308,-1e308,1)"})
     EXPECT_EQ(eval(command), "0") << command;
   eval("1e-300->xMax");

@@ -1,4 +1,5 @@
-// The Mandelbrot and Julia sets: every kernel counts as the plain loop does, and every pixel has the colour of its count.
+// The Mandelbrot and Julia sets: every kernel counts as the plain loop does, and every pixel has the colour
+// of its count.
 
 #include "plot/fractals/escape_time.h"
 
@@ -58,8 +59,8 @@ TEST(escape_time, every_kernel_counts_as_the_definition_does) {
       for (int i = 0; i < batch.count; ++i)
         ASSERT_EQ(batch.rounds[i],
                   rounds_by_definition(batch.z_re[i], batch.z_im[i], batch.c_re[i], batch.c_im[i]))
-            << kernels[k].name << " z " << batch.z_re[i] << ' ' << batch.z_im[i] << " c " << batch.c_re[i] << ' '
-            << batch.c_im[i];
+            << kernels[k].name << " z " << batch.z_re[i] << ' ' << batch.z_im[i] << " c " << batch.c_re[i]
+            << ' ' << batch.c_im[i];
     }
   }
 }
@@ -80,7 +81,8 @@ TEST(escape_time, every_kernel_takes_the_edges_of_the_doubles) {
   for (int k = 0; k < kernel_count; ++k) {
     kernels[k].kernel(batch);
     for (int i = 0; i < batch.count; ++i)
-      EXPECT_EQ(batch.rounds[i], rounds_by_definition(batch.z_re[i], batch.z_im[i], batch.c_re[i], batch.c_im[i]))
+      EXPECT_EQ(batch.rounds[i],
+                rounds_by_definition(batch.z_re[i], batch.z_im[i], batch.c_re[i], batch.c_im[i]))
           << kernels[k].name << " z " << batch.z_re[i] << ' ' << batch.z_im[i];
   }
 }
@@ -102,7 +104,8 @@ TEST(escape_palette, has_six_sectors_of_hue) {
   EXPECT_EQ(hsv_to_rgb(3.5 / 6, 1.0, 1.0), rgb(0, 127, 255));
   EXPECT_EQ(hsv_to_rgb(4.5 / 6, 1.0, 1.0), rgb(127, 0, 255));
   EXPECT_EQ(hsv_to_rgb(5.5 / 6, 1.0, 1.0), rgb(255, 0, 127));
-  EXPECT_EQ(hsv_to_rgb(6.03125 / 6, 1.0, 1.0), rgb(255, 0, 247)) << "beyond the circle the last sector begins anew";
+  EXPECT_EQ(hsv_to_rgb(6.03125 / 6, 1.0, 1.0), rgb(255, 0, 247))
+      << "beyond the circle the last sector begins anew";
   EXPECT_EQ(hsv_to_rgb(0.0, 1.0, 1.1), rgb(255, 0, 0));
 }
 
@@ -113,12 +116,15 @@ class escape_fractal : public drawn {
   // All pixels against the definition, with the bound of 3.
   void expect_picture_of(bool julia, TValue c, bool bounded) {
     const TPlotVariables& view = plot_variables;
-    const double dx = (view.xMax - view.xMin) * 0.004424778761061947, dy = (view.yMin - view.yMax) * 0.005555555555555556;
+    const double dx = (view.xMax - view.xMin) * 0.004424778761061947,
+                 dy = (view.yMin - view.yMax) * 0.005555555555555556;
     for (int row = 0; row < PLOT_HEIGHT; ++row)
       for (int column = 0; column < PLOT_WIDTH; ++column) {
         const double x = column * dx + view.xMin, y = row * dy + view.yMax;
         const bool outside = bounded && (std::fabs(x) >= 3 || std::fabs(y) >= 3);
-        const int rounds = outside ? 0 : julia ? rounds_by_definition(x, y, c.re, c.im) : rounds_by_definition(0, 0, x, y);
+        const int rounds = outside ? 0
+                           : julia ? rounds_by_definition(x, y, c.re, c.im)
+                                   : rounds_by_definition(0, 0, x, y);
         ASSERT_EQ(at(column, row), entry(ESCAPE_ROUNDS - rounds)) << column << ' ' << row;
       }
   }
@@ -141,7 +147,8 @@ TEST_F(escape_fractal, the_mandelbrot_set_in_many_views) {
 
 TEST_F(escape_fractal, julia_sets) {
   ASSERT_TRUE(set_plot_view(-1.7, -1.35, 1.7, 1.35));
-  for (const TValue& c : {TValue{-0.8, 0.156}, TValue{0, 0}, TValue{0.285, 0.01}, TValue{-1, 0}, TValue{2.5, 0}}) {
+  for (const TValue& c :
+       {TValue{-0.8, 0.156}, TValue{0, 0}, TValue{0.285, 0.01}, TValue{-1, 0}, TValue{2.5, 0}}) {
     julia_picture(c);
     EXPECT_EQ(eval("Julia(" + std::to_string(c.re) + "+" + std::to_string(c.im) + "(i))"), "0");
     expect_picture_of(true, c, true);

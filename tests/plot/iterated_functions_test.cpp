@@ -82,7 +82,8 @@ TEST_F(iterated_functions, take_the_last_map_where_no_sum_exceeds_the_number) {
   EXPECT_EQ(ink_count(), 50);
 }
 
-// The likely map is tried first, so the same random numbers lead to the same maps in whatever order the rows stand.
+// The likely map is tried first, so the same random numbers lead to the same maps in whatever order the rows
+// stand.
 TEST_F(iterated_functions, try_likely_maps_first) {
   view_of_pixels();
   const TMap rare = {0, 0, 0, 0, 10, 10, 0.1}, common = {1, 0, 0, 1, 1, 0, 0.9};

@@ -71,13 +71,17 @@ class l_system : public drawn {
     std::vector<TStep> steps;
     clear_error();
     TLSystemTurtle turtle(grammar, settings);
-    turtle.walk([](void* list, double x, double y, bool line) {
-      static_cast<std::vector<TStep>*>(list)->push_back({x, y, line});
-    }, &steps);
+    turtle.walk(
+        [](void* list, double x, double y, bool line) {
+          static_cast<std::vector<TStep>*>(list)->push_back({x, y, line});
+        },
+        &steps);
     return steps;
   }
   // The last place of the walk.
-  TStep end_of(const std::string& text, TLSystemSettings settings = {}) { return walk(text, settings).back(); }
+  TStep end_of(const std::string& text, TLSystemSettings settings = {}) {
+    return walk(text, settings).back();
+  }
 
   static TLSystemSettings turning(double angle, int order = 0) {
     TLSystemSettings settings;
@@ -171,9 +175,7 @@ TEST_F(l_system, brackets_remember_place_and_direction) {
   EXPECT_EQ(steps[4].y, 0);
 }
 
-TEST_F(l_system, a_closing_bracket_alone_is_nothing) {
-  EXPECT_EQ(walk("F]F").size(), 3u);
-}
+TEST_F(l_system, a_closing_bracket_alone_is_nothing) { EXPECT_EQ(walk("F]F").size(), 3u); }
 
 TEST_F(l_system, holds_105_open_brackets) {
   EXPECT_EQ(walk(std::string(105, '[') + "F").size(), 2u);
@@ -220,8 +222,8 @@ TEST_F(l_system, angles_are_degrees_in_any_angle_mode) {
 }
 
 TEST_F(l_system, orders_are_0_to_100) {
-  for (const char* wrong : {"LSystem(\"F\",-1,90,1,0,0)", "LSystem(\"F\",101,90,1,0,0)", "LSystem(\"F\",1.5,90,1,0,0)",
-                            "LSystem(str1,101,90,1,0,0)"})
+  for (const char* wrong : {"LSystem(\"F\",-1,90,1,0,0)", "LSystem(\"F\",101,90,1,0,0)",
+                            "LSystem(\"F\",1.5,90,1,0,0)", "LSystem(str1,101,90,1,0,0)"})
     EXPECT_EQ(error_of(wrong), "Domain Error") << wrong;
   EXPECT_EQ(eval("LSystem(\"F\",100,90,1,0,0)"), "0");
 }
@@ -236,7 +238,8 @@ TEST_F(l_system, what_is_malformed_draws_nothing_in_silence) {
 TEST_F(l_system, what_is_too_long_is_an_error) {
   std::snprintf(stores.strings[0].text, sizeof stores.strings[0].text, "%s", std::string(120, 'F').c_str());
   EXPECT_EQ(error_of("LSystem(str1,0,90,1,0,0)"), "Memory Limit Error");
-  std::snprintf(stores.strings[0].text, sizeof stores.strings[0].text, "%s", ("FF" + std::string(110, '[')).c_str());
+  std::snprintf(stores.strings[0].text, sizeof stores.strings[0].text, "%s",
+                ("FF" + std::string(110, '[')).c_str());
   EXPECT_EQ(error_of("LSystem(str1,0,90,1,0,0)"), "Memory Limit Error");
   EXPECT_EQ(ink_count(), 0) << "the measuring walk has failed";
   EXPECT_EQ(error_of("LSystem(str1,0,90,1,0,5)"), "Memory Limit Error");

@@ -85,8 +85,8 @@ TEST(clipped_line, keeps_edges_that_rounding_pushes_out_by_less_than_a_pixel) {
 
 TEST(clipped_line, is_nothing_where_an_end_is_undefined_or_no_number) {
   TSurface surface(PLOT_WIDTH, PLOT_HEIGHT);
-  for (const double wrong : {undefined_value, std::numeric_limits<double>::infinity(),
-                             std::numeric_limits<double>::quiet_NaN()}) {
+  for (const double wrong :
+       {undefined_value, std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()}) {
     EXPECT_FALSE(clipped_line(surface, wrong, 5, 8, 5, BLACK));
     EXPECT_FALSE(clipped_line(surface, 5, wrong, 8, 5, BLACK));
     EXPECT_FALSE(clipped_line(surface, 5, 5, wrong, 5, BLACK));
@@ -111,11 +111,14 @@ TEST(clipped_line, has_the_direction_of_its_far_ends) {
     TSurface surface(PLOT_WIDTH, PLOT_HEIGHT);
     EXPECT_TRUE(clipped_line(surface, 0, 0, far, far / 2, BLACK));
     EXPECT_EQ(surface.pixel(0, 0), BLACK);
-    EXPECT_NEAR([&] {
-      int row = 0;
-      while (row < PLOT_HEIGHT && surface.pixel(200, row) != BLACK) ++row;
-      return row;
-    }(), 100, 1) << far;
+    EXPECT_NEAR(
+        [&] {
+          int row = 0;
+          while (row < PLOT_HEIGHT && surface.pixel(200, row) != BLACK) ++row;
+          return row;
+        }(),
+        100, 1)
+        << far;
   }
 }
 

@@ -8,7 +8,8 @@ namespace zephyl {
 
 int drawn::ink_count() {
   const std::vector<TColour> all = pixels();
-  return static_cast<int>(std::count_if(all.begin(), all.end(), [](TColour colour) { return colour != WHITE; }));
+  return static_cast<int>(
+      std::count_if(all.begin(), all.end(), [](TColour colour) { return colour != WHITE; }));
 }
 
 TRect drawn::ink_box() {
@@ -16,7 +17,8 @@ TRect drawn::ink_box() {
   for (int row = 0; row < PLOT_HEIGHT; ++row)
     for (int column = 0; column < PLOT_WIDTH; ++column)
       if (ink(column, row))
-        box = {std::min(box.left, column), std::min(box.top, row), std::max(box.right, column), std::max(box.bottom, row)};
+        box = {std::min(box.left, column), std::min(box.top, row), std::max(box.right, column),
+               std::max(box.bottom, row)};
   return box;
 }
 

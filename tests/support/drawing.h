@@ -18,7 +18,8 @@ class drawn : public calculator {
   int ink_count();
   // The smallest rectangle with all of them; right below left where there is none.
   TRect ink_box();
-  // A view in which a plot unit is a pixel: x from 0 to 225 is its column, y from 0 to 179 counts rows from the bottom.
+  // A view in which a plot unit is a pixel: x from 0 to 225 is its column, y from 0 to 179 counts rows from
+  // the bottom.
   void view_of_pixels();
   // The pixels of the layer, to compare two drawings.
   std::vector<TColour> pixels();

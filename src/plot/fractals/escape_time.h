@@ -1,6 +1,6 @@
-// How many rounds of z = z z + c a point stays within |z| <= 2: the innermost loop of the Mandelbrot and Julia sets. One
-// kernel counts one point at a time, others several side by side in vector registers; all give the same counts, since
-// each does the same operations on doubles in the same order.
+// How many rounds of z = z z + c a point stays within |z| <= 2: the innermost loop of the Mandelbrot and
+// Julia sets. One kernel counts one point at a time, others several side by side in vector registers; all
+// give the same counts, since each does the same operations on doubles in the same order.
 #pragma once
 
 #include <cstdint>

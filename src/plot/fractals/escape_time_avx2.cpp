@@ -1,5 +1,5 @@
-// Four points in a register, two registers side by side. Compiled for AVX2 wherever the rest is for less, and called only
-// where the processor has it.
+// Four points in a register, two registers side by side. Compiled for AVX2 wherever the rest is for less, and
+// called only where the processor has it.
 
 #include "plot/fractals/escape_time_kernels.h"
 
@@ -31,7 +31,8 @@ struct TFour {
 
   ZEPHYL_AVX2 void advance() {
     const __m256d re_squared = _mm256_mul_pd(re, re), im_squared = _mm256_mul_pd(im, im);
-    const __m256d near_by = _mm256_cmp_pd(_mm256_add_pd(re_squared, im_squared), _mm256_set1_pd(4.0), _CMP_LE_OQ);
+    const __m256d near_by =
+        _mm256_cmp_pd(_mm256_add_pd(re_squared, im_squared), _mm256_set1_pd(4.0), _CMP_LE_OQ);
     within = _mm256_and_pd(within, near_by);
     rounds = _mm256_add_pd(rounds, _mm256_and_pd(within, _mm256_set1_pd(1.0)));
     const __m256d product = _mm256_mul_pd(re, im);

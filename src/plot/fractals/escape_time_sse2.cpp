@@ -1,5 +1,5 @@
-// Two points in a register, four registers side by side: the rounds of one point wait for each other, those of
-// different points don't.
+// Two points in a register, four registers side by side: the rounds of one point wait for each other, those
+// of different points don't.
 
 #include "plot/fractals/escape_time_kernels.h"
 

@@ -13,8 +13,8 @@ struct TExtent {
   void take(double x, double y);
 };
 
-// Maps an extent to 0.95 of the view's range on each axis, 0.025 of it away from the lower end. An axis without
-// extent keeps its unit.
+// Maps an extent to 0.95 of the view's range on each axis, 0.025 of it away from the lower end. An axis
+// without extent keeps its unit.
 struct TFitScale {
   double min_x = 0.0, min_y = 0.0;
   double scale_x = 1.0, scale_y = 1.0;

@@ -1,5 +1,5 @@
-// The fractals of the drawing layer. All of them draw in the current view, show themselves as they grow, and stop at a
-// cancel with what is drawn.
+// The fractals of the drawing layer. All of them draw in the current view, show themselves as they grow, and
+// stop at a cancel with what is drawn.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,5 @@
-// ifsFractal(: the attractor of an iterated function system, by the random game of M. Barnsley, "Fractals Everywhere"
-// (1988): a point jumps by an affine map drawn at random, and each place it comes to is drawn.
+// ifsFractal(: the attractor of an iterated function system, by the random game of M. Barnsley, "Fractals
+// Everywhere" (1988): a point jumps by an affine map drawn at random, and each place it comes to is drawn.
 
 #include <algorithm>
 #include <utility>
@@ -60,7 +60,8 @@ class TFunctionSystem {
  private:
   void put_likely_first() {
     const auto likelier = [](const TAffineMap& a, const TAffineMap& b) { return a.limit < b.limit; };
-    for (int i = 0; i < count_; ++i) std::swap(maps_[i], *std::max_element(maps_ + i, maps_ + count_, likelier));
+    for (int i = 0; i < count_; ++i)
+      std::swap(maps_[i], *std::max_element(maps_ + i, maps_ + count_, likelier));
   }
 
   int count_;
@@ -69,7 +70,8 @@ class TFunctionSystem {
 
 class TAttractor {
  public:
-  TAttractor(const MatrixRecord& matrix, bool fitted) : system_(matrix), measuring_(fitted), fitted_(fitted) {}
+  TAttractor(const MatrixRecord& matrix, bool fitted)
+      : system_(matrix), measuring_(fitted), fitted_(fitted) {}
 
   void draw(int points) {
     for (int n = 1; n <= points; ++n) {
@@ -130,8 +132,6 @@ void draw_attractor(const TFamilyCall& call) {
 
 }  // namespace
 
-void register_iterated_functions() {
-  operations[OP_IFS_FRACTAL].matrix = drawing_command<draw_attractor>;
-}
+void register_iterated_functions() { operations[OP_IFS_FRACTAL].matrix = drawing_command<draw_attractor>; }
 
 }  // namespace zephyl

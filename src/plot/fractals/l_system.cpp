@@ -1,6 +1,6 @@
-// LSystem(: a turtle's walk over rules that expand into themselves (A. Lindenmayer; the turtle by P. Prusinkiewicz, "The
-// Algorithmic Beauty of Plants", 1990), drawn from the origin, or fitted to the view by a first walk that only
-// measures.
+// LSystem(: a turtle's walk over rules that expand into themselves (A. Lindenmayer; the turtle by P.
+// Prusinkiewicz, "The Algorithmic Beauty of Plants", 1990), drawn from the origin, or fitted to the view by a
+// first walk that only measures.
 
 #include "collections/string_calls.h"
 #include "plot/drawing.h"

@@ -22,7 +22,8 @@ double snapped(double x) { return std::fabs(x) < near_zero_limit ? 0.0 : x; }
 TLSystemTurtle::TLSystemTurtle(const TLSystemGrammar& grammar, const TLSystemSettings& settings)
     : grammar_(grammar), settings_(settings) {
   for (int depth = 0; depth <= settings.order; ++depth)
-    step_lengths_[depth] = settings.scale == 1.0 ? settings.length : std::pow(settings.scale, depth) * settings.length;
+    step_lengths_[depth] =
+        settings.scale == 1.0 ? settings.length : std::pow(settings.scale, depth) * settings.length;
   for (int turns = 1 - KNOWN_TURNS; turns < KNOWN_TURNS; ++turns)
     directions_[turns + KNOWN_TURNS - 1] = computed_direction(turns);
 }
@@ -82,7 +83,9 @@ void TLSystemTurtle::obey(TFrame& frame, char command) {
   }
 }
 
-void TLSystemTurtle::expand(int rule, int depth) { frames_[frame_count_++] = {grammar_.rule(rule), depth, 0}; }
+void TLSystemTurtle::expand(int rule, int depth) {
+  frames_[frame_count_++] = {grammar_.rule(rule), depth, 0};
+}
 
 void TLSystemTurtle::add_digit(TFrame& frame, int digit) {
   constexpr std::int64_t most = 1000000000;

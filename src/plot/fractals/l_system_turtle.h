@@ -1,4 +1,5 @@
-// The turtle of an L-system: it walks over the expanded rules, turns, steps, and tells each place it comes to.
+// The turtle of an L-system: it walks over the expanded rules, turns, steps, and tells each place it comes
+// to.
 #pragma once
 
 #include <cstdint>
@@ -25,8 +26,8 @@ class TLSystemTurtle {
   // The grammar must live as long as the turtle.
   TLSystemTurtle(const TLSystemGrammar& grammar, const TLSystemSettings& settings);
 
-  // Walks from (0, 0) to the end of the axiom; the start is told too. Reports ERR_MEMORY_LIMIT for too many open
-  // brackets, and a cancel. False if there was an error.
+  // Walks from (0, 0) to the end of the axiom; the start is told too. Reports ERR_MEMORY_LIMIT for too many
+  // open brackets, and a cancel. False if there was an error.
   bool walk(TOutput output, void* context);
 
  private:

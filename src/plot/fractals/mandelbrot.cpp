@@ -23,7 +23,8 @@ constexpr double FINE_STEP = 3e-08;
 
 bool is_fine_part(double part) { return part != 0.0 && std::fabs(part) < FINE_STEP; }
 
-// True for points of the two large parts of the Mandelbrot set, the cardioid and the disc to its left, which never escape.
+// True for points of the two large parts of the Mandelbrot set, the cardioid and the disc to its left, which
+// never escape.
 bool inside_large_parts(double x, double y) {
   const double from_cusp = x - 0.25, y_squared = y * y;
   const double q = from_cusp * from_cusp + y_squared;
