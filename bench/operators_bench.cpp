@@ -54,6 +54,7 @@ void whole_operator(benchmark::State& bench, const char* text, int evaluations) 
 
 BENCHMARK_CAPTURE(plain_body, power, "x^2");
 BENCHMARK_CAPTURE(whole_operator, summation_to_a_million, "Summ(x^2,x,1,1000000)", 1000000);
+BENCHMARK_CAPTURE(whole_operator, integral_of_a_power, "fnInt(x^2,x,0,1)", 61);
 BENCHMARK_CAPTURE(plain_body, sine, "sin(x)*e^x");
 // Smooth: one rule of 61 points is enough.
 BENCHMARK_CAPTURE(whole_operator, integral_of_61_samples, "fnInt(sin(x)*e^x,x,0,1)", 61);

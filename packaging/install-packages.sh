@@ -10,6 +10,7 @@ packages_for() {
     wayland) echo qt6-wayland ;;
     tests) echo libgtest-dev libgsl-dev libboost-math-dev libeigen3-dev libpng-dev giflib-tools ;;
     bench) echo libbenchmark-dev libmuparser-dev libgif-dev libeigen3-dev libgsl-dev libboost-math-dev ;;
+    start-up) echo xvfb libxcb1-dev ;;
     fuzz) echo clang libclang-rt-14-dev ;;
     *) echo "install-packages.sh: no packages are listed for '$1'" >&2; exit 1 ;;
   esac

@@ -96,7 +96,8 @@ void abandon_operator(TNumericState& numeric) {
 // True if the error ends the walk. In a dry pass it is forgiven, or stands while the walk goes on; the step's
 // value is 0.
 bool error_ends_walk(const TStep& step, const TOutcome& outcome) {
-  if (step.numeric_frame < 0 || numeric_states[step.numeric_frame].iterating || outcome.stop_on_error) return true;
+  if (step.numeric_frame < 0 || numeric_states[step.numeric_frame].iterating || outcome.stop_on_error)
+    return true;
   set_number_result(step.result, {});
   if (stands_in_dry_pass(errors.error_code)) return false;
   clear_error();
@@ -132,15 +133,57 @@ TOutcome run_one(const TWalk& walk, const TStep& step) {
 
 // --- Bodies of plain numbers, which run again without their operator's other arguments being gathered anew.
 
-// The body's steps, on the quick road where they can. False if one ended in an error.
-bool run_body(const TWalk& walk, const TStep& call) {
-  const TStep* const end = walk.compiled.steps + call.body_end;
-  for (const TStep* step = walk.compiled.steps + call.body_start; step != end; ++step) {
-    if (!run_real_rule(*step, walk.real_use)) run_general(walk, *step);
-    if (errors.error_flag) return false;
+// A body that is run again and again: as a compact list of its own while its operands are real.
+class TBody {
+ public:
+  TBody(const TWalk& walk, const TStep& call)
+      : walk_(walk),
+        begin_(walk.compiled.steps + call.body_start),
+        end_(walk.compiled.steps + call.body_end),
+        result_(*call.body_value) {
+    TRealProgramBuilder builder(real_);
+    for (const TStep* step = begin_; step != end_; ++step) builder.add(*step);
+    builder.finish(false);
+    if (real_.real_use > walk.real_use) real_.count = 0;
   }
-  return true;
-}
+
+  // False if a step ended in an error.
+  bool run(TValue& value) {
+    if (real_.count == 0 || !inputs_are_real(real_)) {
+      const bool done = run_steps();
+      value = result_;
+      return done;
+    }
+    if (!registers_are_real_) clear_registers();
+    const bool done = run_real_program(real_);
+    value = {result_.re, 0.0};
+    return done;
+  }
+
+ private:
+  // The steps one by one, on the quick road where they can.
+  bool run_steps() {
+    registers_are_real_ = false;
+    for (const TStep* step = begin_; step != end_; ++step) {
+      if (!run_real_rule(*step, walk_.real_use)) run_general(walk_, *step);
+      if (errors.error_flag) return false;
+    }
+    return true;
+  }
+
+  // The compact list writes real parts alone.
+  void clear_registers() {
+    for (const TStep* step = begin_; step != end_; ++step) set_number_result(step->result, {});
+    registers_are_real_ = true;
+  }
+
+  const TWalk& walk_;
+  const TStep* const begin_;
+  const TStep* const end_;
+  const TValue& result_;
+  TRealProgram real_;
+  bool registers_are_real_ = false;
+};
 
 // The call of an operator as its first call left it in its frame.
 TScalarCall repeated_call(const TWalk& walk, const TStep& step) {
@@ -158,9 +201,8 @@ TScalarCall repeated_call(const TWalk& walk, const TStep& step) {
 }
 
 // One round: the body, then the operator with its value. False if the body ended the walk.
-bool run_round(const TWalk& walk, const TStep& step, bool wants_real, TScalarCall& call) {
-  if (!run_body(walk, step)) return false;
-  call.args[0] = *step.body_value;
+bool run_round(TBody& body, const TStep& step, bool wants_real, TScalarCall& call) {
+  if (!body.run(call.args[0])) return false;
   call.repeat = false;
   if (wants_real && !is_real(call.args[0])) {
     report_error(ERR_ARGUMENT_TYPE);
@@ -177,9 +219,10 @@ bool run_rounds(const TWalk& walk, const TStep& step) {
   const bool wants_real = function_arguments(step.op)->types[0] == ARGUMENT_REAL;
   const int work = step.body_end - step.body_start + 1;
   TScalarCall call = repeated_call(walk, step);
+  TBody body(walk, step);
   clear_faults();
   do {
-    if (!run_round(walk, step, wants_real, call) || (!errors.error_flag && poll_after(work))) return false;
+    if (!run_round(body, step, wants_real, call) || (!errors.error_flag && poll_after(work))) return false;
   } while (call.repeat && !errors.error_flag);
   if (!call.keeps_register) set_number_result(step.result, call.result);
   return true;

@@ -57,11 +57,13 @@ bool call_with_flags(const TRealStep* step) {
   return !report_fault() && !errors.error_flag && store_checked(step, result);
 }
 
-bool end_of_program(const TRealStep*) {
+bool end_of_whole(const TRealStep*) {
   registers[0].value.im = 0.0;
   registers[0].type = TYPE_NUMBER;
   return true;
 }
+
+bool end_of_part(const TRealStep*) { return true; }
 
 TRealAction checked(TRealAction action) {
   constexpr TRealAction pairs[][2] = {{TUnchecked::plus, TChecked::plus},
@@ -159,12 +161,12 @@ void TRealProgramBuilder::add(const TStep& step) {
   program_.steps[count_++] = {action, &step.cell[0]->re, &step.cell[1]->re, &step.out->value.re, step.real};
 }
 
-void TRealProgramBuilder::finish() {
+void TRealProgramBuilder::finish(bool whole) {
   program_.real_use = real_use_;
   program_.count = possible_ ? count_ : 0;
   if (program_.count == 0) return;
   check_result_of(program_.steps[count_ - 1].out);
-  program_.steps[count_] = {end_of_program, nullptr, nullptr, nullptr, nullptr};
+  program_.steps[count_] = {whole ? end_of_whole : end_of_part, nullptr, nullptr, nullptr, nullptr};
 }
 
 // --- Failures

@@ -43,7 +43,9 @@ class TRealProgramBuilder {
     program_.count = program_.input_count = 0;
   }
   void add(const TStep& step);
-  void finish();
+  // whole: the steps are an expression, whose value in register 0 becomes a real number. A part of one, as
+  // the body of a numeric operator is, leaves the real parts in its registers and touches nothing else.
+  void finish(bool whole = true);
 
  private:
   bool add_input(const TStep& step, int side);
@@ -66,7 +68,7 @@ inline bool inputs_are_real(const TRealProgram& program) {
 // Reports why a run failed.
 void report_real_failure(const TRealProgram& program);
 
-// Leaves the value in register 0, or an error, and false.
+// Leaves the value in its register, or an error, and false.
 inline bool run_real_program(const TRealProgram& program) {
   if (program.steps[0].run(program.steps)) return true;
   report_real_failure(program);

@@ -13,6 +13,7 @@
 #include "faceplate/entry_line_view.h"
 #include "faceplate/key_feedback.h"
 #include "faceplate/key_path.h"
+#include "faceplate/program_list.h"
 #include "faceplate/screens.h"
 #include "faceplate/title.h"
 #include "numerics/random.h"
@@ -73,6 +74,7 @@ void on_stop() {
 void on_pen_down(int x, int y) {
   state.swallow_up = false;
   if (!state.alpha_active) cursor_to_tap(x, y);
+  if (!state.alpha_active && state.calcMode == PROGRAM_EDIT_MODE) select_tapped_statement(x, y);
   if (!state.alpha_active && plot_pen_down(x, y)) return;
   handle_faceplate_input(x, y, -1, -1);
   state.drag_in_progress = false;

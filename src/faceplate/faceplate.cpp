@@ -11,6 +11,7 @@
 #include "faceplate/indicators.h"
 #include "faceplate/modes.h"
 #include "faceplate/picture_writer.h"
+#include "faceplate/program_edit.h"
 #include "faceplate/resources.h"
 #include "faceplate/result_line_view.h"
 #include "faceplate/title.h"
@@ -45,6 +46,7 @@ bool add_typed_constant(int, const char* unit) {
 }  // namespace
 
 void register_faceplate_hooks() {
+  register_program_edit();
   hooks.draw_expression = draw_expression;
   hooks.draw_result = draw_result;
   hooks.redraw_part = redraw_part;

@@ -3,7 +3,6 @@
 #include "engine/errors.h"
 #include "engine/state.h"
 #include "faceplate/key_path.h"
-#include "faceplate/later_keys.h"
 
 namespace zephyl {
 
@@ -15,14 +14,11 @@ const TKeyRow* find_row(const TKeyMap& map, int key) {
   return nullptr;
 }
 
-const TMeaning& shifted(const TKeyRow& row, TKeyMeaning meaning) {
-  if (meaning == MEANING_BLUE) return row.blue;
-  return meaning == MEANING_ORANGE ? row.orange : row.plain;
-}
-
-TKeyMeaning wanted_meaning() {
-  if (state.blue_shift) return MEANING_BLUE;
-  return state.orange_shift ? MEANING_ORANGE : MEANING_PLAIN;
+// A shift counts where the key has a meaning for it.
+const TMeaning& wanted_meaning(const TKeyRow& row) {
+  if (state.blue_shift && row.blue.defined()) return row.blue;
+  const bool orange = state.orange_shift && !state.blue_shift;
+  return orange && row.orange.defined() ? row.orange : row.plain;
 }
 
 bool refused(const TMeaning& meaning) {
@@ -35,11 +31,9 @@ bool refused(const TMeaning& meaning) {
 
 int press_mapped_key(const TKeyMap& map, int key) {
   const TKeyRow* row = find_row(map, key);
-  TKeyMeaning wanted = wanted_meaning();
-  if (!row || is_later_key(state.calcMode, key, wanted)) return KEY_DONE;
-  if (!shifted(*row, wanted).defined()) wanted = MEANING_PLAIN;
-  const TMeaning& meaning = shifted(*row, wanted);
-  if (is_later_key(state.calcMode, key, wanted) || !meaning.defined() || refused(meaning)) return KEY_DONE;
+  if (!row) return KEY_DONE;
+  const TMeaning& meaning = wanted_meaning(*row);
+  if (!meaning.defined() || refused(meaning)) return KEY_DONE;
   return meaning.act ? meaning.act(key) : meaning.token;
 }
 

@@ -55,7 +55,7 @@ constexpr bool names_each_key(const TKeyRow (&rows)[ROWS], int count) {
 }
 
 // Does what a key of the map means with the shifts as they are. Results as those of key_pressed_decoder
-// (key_path.h). A key that the map doesn't name, or whose subsystem is still to come, does nothing.
+// (key_path.h). A key that the map doesn't name does nothing.
 int press_mapped_key(const TKeyMap& map, int key);
 
 }  // namespace zephyl

@@ -9,6 +9,7 @@
 #include "faceplate/key_feedback.h"
 #include "faceplate/key_maps.h"
 #include "faceplate/modes.h"
+#include "faceplate/program_edit.h"
 #include "faceplate/typed_keys.h"
 #include "platform/platform.h"
 
@@ -67,6 +68,7 @@ bool ends_pause(int key, const KeyRect& rect) {
 
 void take_token(int token) {
   if (state.alpha_active) return append_alpha_character(token);
+  if (state.calcMode == PROGRAM_EDIT_MODE) return add_edited_statement(token);
   if (errors.error_flag || !state.init_done) return;
   insert_token(false, static_cast<TToken>(token));
 }
@@ -103,6 +105,8 @@ bool dropped(int key, bool tap) {
 }  // namespace
 
 int key_pressed_decoder(bool& needs_repaint, int key) {
+  // The dead pixel of the plot screen is a key to the hit test only.
+  if (state.calcMode == PLOT_MODE && key == 0) return KEY_CONSUMED;
   key_click();
   return do_key(needs_repaint, key);
 }

@@ -120,7 +120,7 @@ constexpr TKeyRow rows[] = {
     {21, 21, action(move_left, NOT_RUNNING), action(move_left, NOT_RUNNING)},
     {22, 22, action(move_right, NOT_RUNNING), action(move_right, NOT_RUNNING)},
     {23, 23, token(23), token(173), token(123)},
-    {24, 24, token(24), none, action(write_string, IDLE_ONLY)},
+    {24, 24, token(24), action(write_string, IDLE_ONLY)},
     {25, 25, token(25, IDLE_ONLY), action(enter_catalog_function, IDLE_ONLY),
      action(enter_system_variable, IDLE_ONLY)},
     {26, 26, action(evaluate_and_enter, IDLE_ONLY), action(enter_function, IDLE_ONLY),

@@ -7,6 +7,7 @@
 #include "faceplate/dialogs/menu.h"
 #include "faceplate/dialogs/plot_note.h"
 #include "faceplate/dialogs/setup.h"
+#include "faceplate/program_edit.h"
 #include "faceplate/title.h"
 #include "platform/platform.h"
 #include "plot/drawing.h"
@@ -50,6 +51,8 @@ void set_mode(int mode, bool ask) {
     case PLOT_MODE:
       if (mode != state.calcMode) show_plot(ask);
       return;
+    case PROGRAM_EDIT_MODE:
+      return enter_program_edit();
     default:
       return;
   }

@@ -7,11 +7,13 @@
 #include "faceplate/entry_line_view.h"
 #include "faceplate/gif.h"
 #include "faceplate/images.h"
+#include "faceplate/program_list.h"
 #include "faceplate/indicators.h"
 #include "faceplate/resources.h"
 #include "faceplate/result_line_view.h"
 #include "faceplate/table_screens.h"
 #include "faceplate/title.h"
+#include "platform/platform.h"
 #include "plot/plot.h"
 #include "plot/plot_variables.h"
 
@@ -129,6 +131,7 @@ void paint_program_edit(TSurface& surface) {
   surface.fill(PROGRAM_LINE_RECT, display_colour());
   surface.fill(PROGRAM_LIST_RECT, display_colour());
   paint_upper_line(surface);
+  paint_program_list(surface);
 }
 
 void paint_periodic(TSurface& surface) { draw_gif_resource(surface, "periodic_gif", 0, 0, false, false); }
@@ -171,7 +174,10 @@ constexpr void (*screen_painters[])(TSurface& surface) = {paint_base,         pa
 
 void paint_screen(TSurface& surface) {
   refresh_title();
-  if (state.calcMode >= BASE_MODE && state.calcMode <= LIST_MODE) screen_painters[state.calcMode](surface);
+  if (state.calcMode >= BASE_MODE && state.calcMode <= LIST_MODE)
+    screen_painters[state.calcMode](surface);
+  else
+    platform().show_message("bitmap not found", "Bitmap error");
   if (state.alpha_active) paint_alpha_overlay(surface);
 }
 

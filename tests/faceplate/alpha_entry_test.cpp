@@ -44,8 +44,8 @@ class alpha : public face {
   static std::string text() { return alpha_entry.text; }
 };
 
-TEST_F(alpha, the_orange_key_8_writes_a_string) {
-  tap_keys({0, 24});
+TEST_F(alpha, the_blue_key_8_writes_a_string) {
+  tap_keys({1, 24});
   EXPECT_TRUE(state.alpha_active);
   EXPECT_EQ(alpha_entry.kind, ALPHA_STRING);
   EXPECT_EQ(shifts(), "");
@@ -57,18 +57,18 @@ TEST_F(alpha, the_orange_key_8_writes_a_string) {
 TEST_F(alpha, a_string_goes_in_at_the_cursor) {
   type("12");
   arrow(ARROW_LEFT);
-  tap_keys({0, 24});
+  tap_keys({1, 24});
   type("a\r");
   EXPECT_EQ(entry(), "1\"a\"2");
 }
 
 TEST_F(alpha, neither_starts_on_an_error_nor_while_a_program_runs) {
   eval("1/0");
-  tap_keys({0, 24});
+  tap_keys({1, 24});
   EXPECT_FALSE(state.alpha_active);
   tap_key(27);
   state.program_running = true;
-  tap_keys({0, 24});
+  tap_keys({1, 24});
   EXPECT_FALSE(state.alpha_active);
 }
 
@@ -310,7 +310,7 @@ TEST_F(alpha, a_text_that_nobody_takes_is_not_lost) {
 
 TEST_F(alpha, a_string_that_does_not_fit_stays_up) {
   type(std::string(95, '1'));
-  tap_keys({0, 24});
+  tap_keys({1, 24});
   type("abcdef\r");
   EXPECT_EQ(message(), "Limit | Reached expression size limit");
   EXPECT_TRUE(state.alpha_active);

@@ -7,7 +7,6 @@
 #include "engine/memory.h"
 #include "engine/state.h"
 #include "faceplate/face.h"
-#include "faceplate/later_keys.h"
 #include "plot/plot_variables.h"
 
 namespace zephyl {
@@ -50,7 +49,7 @@ constexpr TKeyTokens key_tokens[] = {
     {11, "11", "111", "11"}, {12, "12", "112", "12"},  {13, "13", "113", "13"}, {14, "14", "", "14"},
     {15, "15", "115", "15"}, {17, "17", "117", "217"}, {18, "18", "120", "18"}, {19, "20", "19", "20"},
     {20, "", "", ""},        {21, "", "", ""},         {22, "", "", ""},        {23, "23", "173", "123"},
-    {24, "24", "24", ""},    {25, "25", "", ""},       {26, "", "", "2059"},    {27, "", "", ""},
+    {24, "24", "", "24"},    {25, "25", "", ""},       {26, "", "", "2059"},    {27, "", "", ""},
     {28, "28", "28", "28"},  {29, "29", "29", "29"},   {30, "30", "30", "30"},  {31, "31", "31", "31"},
     {32, "32", "32", "32"},  {33, "33", "33", "33"},   {34, "34", "34", "34"},  {35, "35", "35", "35"},
     {36, "36", "36", "36"},  {37, "37", "37", "37"},   {38, "38", "38", "38"},  {39, "39", "39", "39"},
@@ -237,20 +236,6 @@ TEST_F(keys_comp, at_a_prompt_tokens_go_in) {
   state.program_running = state.at_prompt = true;
   tap_keys({33, 34, DELETE_KEY});
   EXPECT_EQ(codes(), "33");
-}
-
-TEST_F(keys_comp, a_key_without_its_subsystem_changes_nothing) {
-  tap_key(33);
-  for (int key = 0; key < calculator_keys.count; ++key)
-    for (const TKeyMeaning meaning : {MEANING_PLAIN, MEANING_BLUE, MEANING_ORANGE}) {
-      if (!is_later_key(COMP_MODE, key, meaning)) continue;
-      if (meaning != MEANING_PLAIN) tap_key(meaning == MEANING_BLUE ? BLUE_KEY : ORANGE_KEY);
-      tap_key(key);
-      EXPECT_EQ(codes(), "33") << "key " << key;
-      EXPECT_EQ(state.calcMode, COMP_MODE);
-      EXPECT_EQ(shifts(), "");
-    }
-  EXPECT_EQ(message(), "none");
 }
 
 TEST_F(keys_comp, a_number_that_is_no_key_does_nothing) {

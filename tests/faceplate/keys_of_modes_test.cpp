@@ -12,7 +12,7 @@
 #include "engine/state.h"
 #include "faceplate/face.h"
 #include "faceplate/key_maps.h"
-#include "faceplate/later_keys.h"
+#include "faceplate/key_path.h"
 #include "faceplate/modes.h"
 #include "plot/plot_variables.h"
 #include "plot/zoom_locks.h"
@@ -332,6 +332,14 @@ TEST_F(keys_plot, the_height_of_a_surface_is_doubled_and_halved) {
   EXPECT_EQ(plot_variables.zScale, 1e100);  // as far as a plot goes
 }
 
+TEST_F(keys_plot, the_dead_pixel_is_reported_and_does_nothing) {
+  settings.keyClick = 1;
+  bool needs_repaint = false;
+  EXPECT_EQ(key_pressed_decoder(needs_repaint, 0), KEY_CONSUMED);
+  EXPECT_FALSE(needs_repaint);
+  EXPECT_EQ(platform_.clicks, 0);
+}
+
 TEST_F(keys_plot, on_a_plane_those_two_keys_are_never_reached) {
   on_pen_down(7, 7);
   on_pen_up(7, 7);
@@ -484,23 +492,6 @@ TEST_F(keys_of_all_modes, each_map_names_the_rows_of_its_table) {
               {periodic_key_map, periodic_keys},  {plot_key_map, plot_keys},
               {matrix_key_map, list_matrix_keys}, {list_key_map, list_matrix_keys}};
   for (const auto& row : rows) EXPECT_EQ(row.map.rows[row.map.count - 1].last + 1, row.table.count);
-}
-
-TEST_F(keys_of_all_modes, a_key_without_its_subsystem_changes_nothing) {
-  for (int mode = BASE_MODE; mode <= LIST_MODE; ++mode)
-    for (const bool blue : {false, true}) {
-      state.calcMode = mode;
-      for (int key = 0; key < shown_key_table().count; ++key) {
-        if (!is_later_key(mode, key, blue ? MEANING_BLUE : MEANING_PLAIN)) continue;
-        state.blue_shift = blue;
-        tap_key(key);
-        EXPECT_EQ(state.calcMode, mode) << "key " << key;
-        EXPECT_EQ(codes(), "") << "mode " << mode << " key " << key;
-        EXPECT_EQ(shifts(), "");
-      }
-    }
-  EXPECT_TRUE(platform_.dialogs.empty());
-  EXPECT_EQ(message(), "none");
 }
 
 TEST_F(keys_of_all_modes, shifts_stay_until_they_are_used) {

@@ -7,6 +7,7 @@
 #include "faceplate/alpha_entry.h"
 #include "faceplate/face.h"
 #include "plot/plot_variables.h"
+#include "programs/run_state.h"
 #include "support/golden.h"
 
 namespace zephyl {
@@ -90,9 +91,9 @@ TEST_F(pictures, a_decimal_comma) {
 }
 
 TEST_F(pictures, a_running_program) {
-  state.program_running = true;
+  state.program_running = run.key_run = true;
   expect_in_every_skin("comp_running");
-  state.program_running = false;
+  state.program_running = run.key_run = false;
 }
 
 TEST_F(pictures, the_program_editor) {

@@ -14,6 +14,7 @@
 #include "faceplate/key_feedback.h"
 #include "plot/plot.h"
 #include "plot/plot_variables.h"
+#include "programs/run_state.h"
 
 namespace zephyl {
 namespace {
@@ -47,6 +48,17 @@ TEST_F(screens, a_mode_out_of_range_paints_nothing) {
   state.calcMode = 8;
   paint();
   EXPECT_EQ(picture(), before);
+  EXPECT_EQ(message(), "Bitmap error | bitmap not found");
+}
+
+TEST_F(screens, a_setting_out_of_range_shows_its_first_picture_and_is_reported) {
+  settings.angleMode = 0;
+  paint();
+  const std::vector<TColour> first = picture();
+  settings.angleMode = 5;
+  paint();
+  EXPECT_EQ(picture(), first);
+  EXPECT_EQ(message(), "Bitmap error | bitmap not found");
 }
 
 TEST_F(screens, a_skin_out_of_range_is_the_first) {
@@ -153,7 +165,7 @@ TEST_F(indicators, each_repaints_by_itself_as_the_whole_screen_would) {
     expect_redraw(PART_HYP, [] { state.hyp_shift = !state.hyp_shift; });
     expect_redraw(PART_SHIFTS, [] { state.orange_shift = !state.orange_shift; });
     expect_redraw(PART_ANGLE, [] { settings.angleMode = (settings.angleMode + 1) % 3; });
-    expect_redraw(PART_RUN, [] { state.program_running = !state.program_running; });
+    expect_redraw(PART_RUN, [] { state.program_running = run.key_run = !state.program_running; });
     state.calcMode = STATS_MODE;
     expect_redraw(PART_STATS_VAR, [] { settings.statsVar = 1 - settings.statsVar; });
     expect_redraw(PART_REGRESSION, [] { settings.statsRegress = (settings.statsRegress + 1) % 4; });

@@ -12,6 +12,7 @@ namespace {
 
 const std::string FENCE = "```";
 const std::string LANGUAGE = FENCE + "zephyl";
+const std::string PROGRAM = LANGUAGE + " program ";
 const std::string ERROR_MARK = "error: ";
 
 bool begins_with(const std::string& text, const std::string& beginning) {
@@ -26,6 +27,8 @@ class TPageReader {
     ++number_;
     if (begins_with(line, FENCE))
       read_fence(line);
+    else if (in_program_)
+      page_.programs.back().lines.push_back(line);
     else if (in_examples_)
       read_example_line(line);
   }
@@ -43,8 +46,10 @@ class TPageReader {
   void read_fence(const std::string& line) {
     const bool opens = !in_block_;
     in_block_ = opens;
-    in_examples_ = opens && begins_with(line, LANGUAGE);
+    in_program_ = opens && begins_with(line, PROGRAM);
+    in_examples_ = opens && !in_program_ && begins_with(line, LANGUAGE);
     answer_open_ = false;
+    if (in_program_) page_.programs.push_back({line.substr(PROGRAM.size()), {}});
     if (!in_examples_) return;
     if (line == LANGUAGE)
       page_.sessions.emplace_back();
@@ -71,6 +76,7 @@ class TPageReader {
   TManualPage page_;
   int number_ = 0;
   bool in_block_ = false;
+  bool in_program_ = false;
   bool in_examples_ = false;
   bool answer_open_ = false;
 };
@@ -132,8 +138,10 @@ TManualPage read_manual_page(const std::string& path) {
   return reader.finish();
 }
 
-int count_failing_examples(const std::string& path, const TManualSession& session, bool keep_pictures) {
+int count_failing_examples(const std::string& path, const TManualSession& session,
+                           const std::vector<TTranscriptProgram>& programs, bool keep_pictures) {
   TTranscript transcript = transcript_of(session, keep_pictures);
+  transcript.programs = programs;
   if (!run_transcript(transcript)) return static_cast<int>(session.size());
   int failing = 0;
   auto exchange = transcript.exchanges.cbegin();

@@ -11,11 +11,14 @@
 //   # a remark
 //
 // A block begins with a calculator that has just started, a block ```zephyl continued goes on with the one of
-// the block before it. A word in angle brackets stands for an answer, as in a transcript.
+// the block before it. A block ```zephyl program NAME holds the statements of a program, as the program screen lists
+// them, that every calculator of the page has in its folder. A word in angle brackets stands for an answer, as in a transcript.
 #pragma once
 
 #include <string>
 #include <vector>
+
+#include "scripts/transcript.h"
 
 namespace zephyl {
 
@@ -32,6 +35,7 @@ using TManualSession = std::vector<TManualExample>;
 struct TManualPage {
   std::string path;
   std::vector<TManualSession> sessions;
+  std::vector<TTranscriptProgram> programs;
   // "PATH:LINE: what is wrong" for what can't be read.
   std::vector<std::string> faults;
 };
@@ -41,6 +45,7 @@ TManualPage read_manual_page(const std::string& path);
 // Gives the examples to a calculator that starts afresh in an empty folder of its own, and prints each one
 // whose answer is another than the page says, beginning with "PATH:LINE:". Returns how many there are.
 // keep_pictures: what is painted becomes the pictures in docs/pictures.
-int count_failing_examples(const std::string& path, const TManualSession& session, bool keep_pictures = false);
+int count_failing_examples(const std::string& path, const TManualSession& session,
+                           const std::vector<TTranscriptProgram>& programs = {}, bool keep_pictures = false);
 
 }  // namespace zephyl

@@ -17,7 +17,7 @@ bool session_holds(const zephyl::TManualPage& page, const zephyl::TManualSession
   std::fflush(stdout);
   const pid_t child = fork();
   if (child == 0) {
-    const int failing = zephyl::count_failing_examples(page.path, session, keep_pictures);
+    const int failing = zephyl::count_failing_examples(page.path, session, page.programs, keep_pictures);
     std::fflush(stdout);
     _exit(failing == 0 ? 0 : 1);
   }

@@ -99,6 +99,23 @@ TEST_F(operators, a_body_may_store_into_its_variable) {
   expect_variable_restored("stored", 75);
 }
 
+TEST_F(operators, what_was_computed_before_the_body_stays_as_it_was) {
+  EXPECT_EQ(value("(2+(i))*Summ(x^2+1,x,1,3)"), 34.0);
+  EXPECT_EQ(imaginary("(2+(i))*Summ(x^2+1,x,1,3)"), 17.0);
+  EXPECT_EQ(value("listSum({1,2}*Summ(x*2,x,1,2))"), 18.0);
+  EXPECT_EQ(eval("strSub(\"abc\"+\"def\",Summ(x-1,x,1,3),Prod(x+0,x,1,2))"), "cd");
+}
+
+TEST_F(operators, a_body_may_be_complex_in_one_run_and_real_in_the_next) {
+  memory_set_both(SLOT_CAPITAL_A, 0, 2);
+  EXPECT_EQ(imaginary("Summ(A*x+1,x,1,3)"), 12.0);
+  EXPECT_EQ(value("Summ((A-A)*x+1,x,1,3)"), 3.0);
+  memory_set_both(SLOT_CAPITAL_A, 2, 0);
+  EXPECT_EQ(value("Summ(A*x+1,x,1,3)"), 15.0);
+  EXPECT_EQ(imaginary("Summ(A*x+1,x,1,3)"), 0.0);
+  EXPECT_EQ(imaginary("fnEval(x*2+1,x,(i))+fnEval(x*2+1,x,3)"), 2.0);
+}
+
 TEST_F(operators, a_body_may_be_a_plot_function) {
   eval("x^2->f1(x)");
   EXPECT_EQ(value("Summ(f1(x),x,1,3)"), 14.0);

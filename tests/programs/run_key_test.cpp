@@ -180,7 +180,7 @@ TEST_F(run_key, keys_do_nothing_while_a_program_runs) {
   write_program("Endless", {"label A", "goto label A"});
   start("Endless");
   go_on(1);
-  for (const int character : {'7', '+', '=', 27, 8}) on_char(static_cast<std::uint16_t>(character));
+  for (const char character : {'7', '+', '=', '\x1B', '\b'}) on_char(static_cast<unsigned char>(character));
   EXPECT_EQ(entry(), "");
   EXPECT_EQ(result(), "Running...");
   EXPECT_TRUE(state.program_running);
@@ -258,7 +258,7 @@ TEST_F(run_key, in_program_edit_runs_the_edited_program) {
   EXPECT_EQ(state.calcMode, COMP_MODE);
   go_on();
   EXPECT_EQ(result(), "Ans=1");
-  EXPECT_EQ(file_content(program_path_of("One")), "N: One\r\nV: 2.7A\r\nI: 11\r\nE: 33,910,\r\nI: 10\r\n");
+  EXPECT_EQ(file_content(program_path_of("One")), "N: One\r\nV: 2.7A\r\nI: 11\r\nE: 33,3010,\r\nI: 10\r\n");
 }
 
 TEST_F(run_key, in_program_edit_does_not_run_a_function) {

@@ -8,6 +8,7 @@
 
 #include "app/start_up.h"
 #include "platform/script/script.h"
+#include "support/program_listing.h"
 
 namespace zephyl {
 
@@ -15,6 +16,7 @@ namespace {
 
 constexpr const char* BLANK = "<blank>";
 
+bool is_program(const std::string& line) { return line.compare(0, 2, "+ ") == 0; }
 bool is_command(const std::string& line) { return line.compare(0, 2, "> ") == 0; }
 bool is_heading(const std::string& line) { return line.empty() || line[0] == '#'; }
 
@@ -61,6 +63,24 @@ class TTemporaryFolder {
   std::filesystem::path before_;
   std::filesystem::path folder_;
 };
+
+constexpr const char* PROGRAM_EXTENSION = ".prgm";
+
+std::string content_of(const TTranscriptProgram& program, const std::string& name) {
+  if (name == program.name) return program_file_from_listing(name, program.lines);
+  std::string content;
+  for (const std::string& line : program.lines) content += line + "\r\n";
+  return content;
+}
+
+// Into the folder "programs" of the current one.
+void write_programs(const TTranscript& transcript) {
+  if (!transcript.programs.empty()) std::filesystem::create_directory("programs");
+  for (const TTranscriptProgram& program : transcript.programs) {
+    const std::string name = program.name.substr(0, program.name.rfind(PROGRAM_EXTENSION));
+    std::ofstream("programs/" + name + PROGRAM_EXTENSION) << content_of(program, name);
+  }
+}
 
 // An expected line that names an answer instead of spelling it.
 bool is_name(const std::string& line) {
@@ -110,9 +130,15 @@ bool read_transcript(const std::string& path, TTranscript& transcript) {
     return false;
   }
   std::string line;
+  bool in_program = false;
   for (int number = 1; std::getline(file, line); ++number) {
-    if (is_heading(line)) {
+    in_program = is_program(line) || (in_program && !is_heading(line) && !is_command(line));
+    if (is_heading(line) || in_program) {
       transcript.ending.push_back(line);
+      if (is_program(line))
+        transcript.programs.push_back({line.substr(2), {}});
+      else if (in_program)
+        transcript.programs.back().lines.push_back(line);
     } else if (is_command(line)) {
       transcript.exchanges.push_back({transcript.ending, number, line.substr(2), {}, {}});
       transcript.ending.clear();
@@ -134,6 +160,7 @@ bool run_transcript(TTranscript& transcript) {
 bool run_transcript(TTranscript& transcript, TScriptPlatform& platform) {
   const TTemporaryFolder folder;
   if (!folder.made()) return false;
+  write_programs(transcript);
   set_platform(&platform);
   register_families();
   TTranscriptChannel channel(transcript);

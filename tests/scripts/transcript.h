@@ -4,9 +4,16 @@
 //   > eval 2+2
 //   4
 //
+//   + Circle
+//   in r, "radius"
+//   pi*r^(2)
+//
 // "> " begins a command; the lines behind it are its answer, up to the next command, comment or blank line.
 // An answer line that is blank is written <blank>. Any other word in angle brackets, as <before>, stands for
 // an answer that is not spelled out: the same word for the same answer, another word for another answer.
+// "+ " and a name begin a program, which is in the folder "programs" from the start: the lines behind it are its
+// statements as the program screen lists them (support/program_listing.h); behind a name that ends in ".prgm" they are
+// the lines of the file itself.
 #pragma once
 
 #include <string>
@@ -24,8 +31,14 @@ struct TExchange {
   std::vector<std::string> answered;
 };
 
+struct TTranscriptProgram {
+  std::string name;
+  std::vector<std::string> lines;
+};
+
 struct TTranscript {
   std::string path;
+  std::vector<TTranscriptProgram> programs;
   std::vector<TExchange> exchanges;
   std::vector<std::string> ending;  // comments and blank lines behind the last one
 };

@@ -6,6 +6,7 @@
 #include "engine/memory.h"
 #include "engine/records.h"
 #include "engine/tokens.h"
+#include "faceplate/dialogs/statement_rows.h"
 
 namespace zephyl {
 
@@ -37,11 +38,6 @@ std::string value_text(int slot) {
     default:
       return format_result(memory_array[slot].re, memory_array[slot].im, false, true);
   }
-}
-
-std::string name_text(int slot) {
-  const std::string name = slot_name(slot, true);
-  return slot_class(slot) == CLASS_GREEK ? "(" + name + ")" : name;
 }
 
 std::string matrix_answer_text() { return "[Matrix Ans]: " + matrix_text(stores.matrices[ANSWER_RECORD]); }
@@ -92,7 +88,7 @@ std::vector<std::string> group_texts() {
 std::vector<std::string> variable_texts(const TGroup& group, bool with_answers) {
   std::vector<std::string> texts;
   for (int slot = group.first_slot; slot < group.first_slot + group.count; ++slot)
-    texts.push_back(name_text(slot) + ": " + value_text(slot));
+    texts.push_back(variable_name_text(slot) + ": " + value_text(slot));
   if (with_answers && group.answer_text) texts.push_back(group.answer_text());
   return texts;
 }

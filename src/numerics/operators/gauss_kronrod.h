@@ -11,18 +11,37 @@ struct TRuleResult {
   double deviation = 0.0;  // integral of its distance from the mean
 };
 
+// A pair of nodes, left and right of the centre.
+struct TNodes {
+  double distance;  // from the centre, of an interval of length 2
+  double kronrod_weight;
+  double gauss_weight;  // 0 for nodes that the Gauss rule of 30 points hasn't
+};
+
 class TGaussKronrod {
  public:
   static constexpr int POINTS = 61;
+  static constexpr int PAIRS = 30;
 
   // The interval in either order; returns the first place.
   double start(double a, double b);
   // Takes the sample at the last place. True with the next place, false when result() stands.
-  bool next(double sample, double& place);
+  bool next(double sample, double& place) {
+    samples_[count_++] = sample;
+    if (count_ == POINTS) return false;
+    place = place_of(count_);
+    return true;
+  }
   TRuleResult result() const;
 
  private:
-  double place_of(int index) const;
+  static const TNodes pairs[PAIRS];
+
+  // The centre, then pairs left and right of it.
+  double place_of(int index) const {
+    const double distance = half_length_ * pairs[(index - 1) / 2].distance;
+    return index % 2 == 1 ? centre_ - distance : centre_ + distance;
+  }
 
   double centre_ = 0.0, half_length_ = 0.0;
   double samples_[POINTS] = {};

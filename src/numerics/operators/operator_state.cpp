@@ -3,8 +3,6 @@
 #include <cmath>
 
 #include "engine/errors.h"
-#include "engine/loop_variables.h"
-#include "engine/memory.h"
 
 namespace zephyl {
 
@@ -13,11 +11,6 @@ bool begin_operator(TScalarCall& call) {
   if (errors.error_flag) return false;
   call.numeric->phase = 1;
   return true;
-}
-
-void ask_at(TScalarCall& call, const TValue& x) {
-  memory_array[call.numeric->variable] = x;
-  call.repeat = true;
 }
 
 void finish_operator(TScalarCall& call, const TValue& result) {

@@ -7,6 +7,7 @@
 #include "engine/compiled.h"
 #include "engine/evaluator.h"
 #include "engine/loop_variables.h"
+#include "engine/memory.h"
 #include "engine/operations.h"
 
 namespace zephyl {
@@ -18,7 +19,10 @@ inline bool begins(const TScalarCall& call) { return call.numeric->phase == 0; }
 bool begin_operator(TScalarCall& call);
 
 // Another round of the expression at x.
-void ask_at(TScalarCall& call, const TValue& x);
+inline void ask_at(TScalarCall& call, const TValue& x) {
+  memory_array[call.numeric->variable] = x;
+  call.repeat = true;
+}
 inline void ask_at(TScalarCall& call, double x) { ask_at(call, TValue{x, 0.0}); }
 
 // The operator's result; its variable has its old value again, and its next call begins anew.

@@ -27,8 +27,8 @@ double TQuadrature::start(double lower, double upper, double tolerance) {
   return rule_.start(lower, upper);
 }
 
-bool TQuadrature::next(double sample, double& place) {
-  if (rule_.next(sample, place)) return true;
+// The rule on an interval is complete.
+bool TQuadrature::next_rule(double& place) {
   if (stage_ == WHOLE) {
     if (first_estimate()) return false;
   } else if (stage_ == LEFT_HALF) {

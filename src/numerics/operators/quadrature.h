@@ -16,7 +16,7 @@ class TQuadrature {
   // Bounds in either order; a tolerance below 50 roundings counts as that. Returns the first place.
   double start(double lower, double upper, double tolerance);
   // Takes the sample at the last place. True with the next place, false when the result stands.
-  bool next(double sample, double& place);
+  bool next(double sample, double& place) { return rule_.next(sample, place) || next_rule(place); }
   double result() const { return result_; }
   double error() const { return error_; }
 
@@ -28,6 +28,7 @@ class TQuadrature {
     double a, b, integral, error;
   };
 
+  bool next_rule(double& place);
   bool first_estimate();
   double bisect();
   bool take_halves();

@@ -16,6 +16,9 @@ void TControlWidget::sync(const TControl& control, const QString& label) {
   show(control, label);
   body_->setEnabled(control.enabled);
   body_->setVisible(control.visible);
+  if (!companion_) return;
+  companion_->setEnabled(control.enabled);
+  companion_->setVisible(control.visible && shows_companion());
 }
 
 void TControlWidget::set_name(const QString& name) {

@@ -38,9 +38,12 @@ class TControlWidget {
   // What a screen reader calls the control.
   virtual void set_name(const QString& name);
 
-  // What stands in the layout; the label beside or above it, null where it has none.
+  // What stands in the layout; the label beside or above it, null where it has none. All have one parent:
+  // Qt's screen reader interface looks for labels among the neighbours only.
   QWidget* body() const { return body_; }
   QLabel* caption() const { return caption_; }
+  // What goes with the body, on its right or above it; null where there is nothing.
+  QWidget* companion() const { return companion_; }
   // What the keyboard reaches, in order; the last is where it begins. Empty if there is nothing to do.
   const std::vector<QWidget*>& tab_stops() const { return tab_stops_; }
 
@@ -53,7 +56,11 @@ class TControlWidget {
 
   TDialogUser& user_;
   int index_;
+  // Whether the companion shows when the control does.
+  virtual bool shows_companion() const { return companion_; }
+
   QWidget* body_ = nullptr;
+  QWidget* companion_ = nullptr;
   QLabel* caption_ = nullptr;
   std::vector<QWidget*> tab_stops_;
 };

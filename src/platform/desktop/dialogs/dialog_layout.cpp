@@ -4,7 +4,6 @@
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStyle>
@@ -22,6 +21,7 @@ using TLine = std::vector<int>;
 constexpr int MARGIN = 12;
 constexpr int COLUMN_GAP = 8;
 constexpr int LINE_GAP = 7;
+constexpr int COMPANION_GAP = 4;
 constexpr int PART_GAP = 14;  // between body, button column and bottom row
 // A line of more controls than these has columns of its own.
 constexpr std::size_t MOST_ALIGNED = 3;
@@ -42,16 +42,19 @@ class TLayouter {
   QWidget* lay_body();
   void lay_line(const TLine& line, bool stacked_buttons);
   void lay_pieces(const TLine& line);
+  void lay_piece(int index, int column, int columns);
   void lay_tall(const TLine& line);
   void lay_button(int index, bool fills);
-  QLayout* pack(int index);
+  void add_body(QBoxLayout* box, int index);
+  void put_body(int index, int column, int columns);
+  QBoxLayout* pack(int index);
   QLayout* pack_line(const TLine& line);
   QLayout* stack(const TLine& line, std::size_t first);
   QWidget* scrolled(QWidget* body);
   QLayout* with_column(QWidget* body);
   QLayout* column_beside();
   QLayout* column_below(int width);
-  QDialogButtonBox* bottom_row();
+  QLayout* bottom_row();
   void note_stops(const TLine& line);
   bool is_button_line(std::size_t line) const;
   bool is_radio_line(std::size_t line) const;
@@ -88,13 +91,32 @@ void TLayouter::note_stops(const TLine& line) {
     for (QWidget* stop : widget(index).tab_stops()) result_.tab_stops.push_back(stop);
 }
 
+// A control with what goes with it: above a list, to the right of anything else.
+void TLayouter::add_body(QBoxLayout* box, int index) {
+  TControlWidget& piece = widget(index);
+  const bool above = is_tall(control(index));
+  if (piece.companion() && above) box->addWidget(piece.companion());
+  box->addWidget(piece.body(), 1);
+  if (piece.companion() && !above) box->addWidget(piece.companion());
+}
+
+// The same as one cell of the grid.
+void TLayouter::put_body(int index, int column, int columns) {
+  TControlWidget& piece = widget(index);
+  if (!piece.companion()) return grid_->addWidget(piece.body(), row_, column, 1, columns);
+  auto* box = new QBoxLayout(is_tall(control(index)) ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+  box->setSpacing(COMPANION_GAP);
+  add_body(box, index);
+  grid_->addLayout(box, row_, column, 1, columns);
+}
+
 // A control with its caption above or in front of it.
-QLayout* TLayouter::pack(int index) {
+QBoxLayout* TLayouter::pack(int index) {
   const bool above = is_tall(control(index));
   auto* box = new QBoxLayout(above ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-  box->setSpacing(above ? LINE_GAP / 2 : COLUMN_GAP);
+  box->setSpacing(above ? COMPANION_GAP : COLUMN_GAP);
   if (widget(index).caption()) box->addWidget(widget(index).caption());
-  box->addWidget(widget(index).body(), 1);
+  add_body(box, index);
   return box;
 }
 
@@ -114,36 +136,44 @@ QLayout* TLayouter::stack(const TLine& line, std::size_t first) {
   return box;
 }
 
-// The control fills the rest of the width; buttons beside it make a column.
+// The control fills the width that the buttons beside it, a column, leave.
 void TLayouter::lay_tall(const TLine& line) {
   TControlWidget& tall = widget(line[0]);
   if (tall.caption()) grid_->addWidget(tall.caption(), row_++, 0, 1, columns_);
   grid_->setRowStretch(row_, stretch_of(line[0]));
-  if (line.size() == 1) return grid_->addWidget(tall.body(), row_++, 0, 1, columns_);
-  auto* box = new QHBoxLayout;
-  box->setSpacing(COLUMN_GAP);
-  box->addWidget(tall.body(), 1);
-  box->addLayout(stack(line, 1));
-  grid_->addLayout(box, row_++, 0, 1, columns_);
+  if (line.size() == 1) {
+    put_body(line[0], 0, columns_);
+  } else {
+    auto* box = new QHBoxLayout;
+    box->setSpacing(COLUMN_GAP);
+    auto* rows = new QVBoxLayout;
+    rows->setSpacing(COMPANION_GAP);
+    add_body(rows, line[0]);
+    box->addLayout(rows, 1);
+    box->addLayout(stack(line, 1));
+    grid_->addLayout(box, row_, 0, 1, columns_);
+  }
+  ++row_;
 }
 
 // Each control has two columns, one for its caption; the last one goes on to the end.
 void TLayouter::lay_pieces(const TLine& line) {
   for (std::size_t i = 0; i < line.size(); ++i) {
     const int column = 2 * static_cast<int>(i);
-    const int end = i + 1 == line.size() ? columns_ : column + 2;
-    TControlWidget& piece = widget(line[i]);
-    const bool captioned = piece.caption() && !is_tall(control(line[i]));
-    if (captioned) grid_->addWidget(piece.caption(), row_, column);
-    if (captioned || !piece.caption())
-      grid_->addWidget(piece.body(), row_, captioned ? column + 1 : column, 1,
-                       end - column - (captioned ? 1 : 0));
-    else
-      grid_->addLayout(pack(line[i]), row_, column, 1, end - column);
+    const int columns = i + 1 == line.size() ? columns_ - column : 2;
+    lay_piece(line[i], column, columns);
     grid_->setRowStretch(row_, std::max(grid_->rowStretch(row_), stretch_of(line[i])));
     if (control(line[i]).kind != CONTROL_BUTTON) grid_->setColumnStretch(column + 1, 1);
   }
   ++row_;
+}
+
+void TLayouter::lay_piece(int index, int column, int columns) {
+  QLabel* caption = widget(index).caption();
+  if (caption && is_tall(control(index))) return grid_->addLayout(pack(index), row_, column, 1, columns);
+  if (caption) grid_->addWidget(caption, row_, column);
+  const int taken = caption ? 1 : 0;
+  put_body(index, column + taken, columns - taken);
 }
 
 void TLayouter::lay_button(int index, bool fills) {
@@ -156,7 +186,8 @@ void TLayouter::lay_line(const TLine& line, bool stacked_buttons) {
   if (is_tall(control(line[0])) && others_are_buttons) return lay_tall(line);
   if (line.size() == 1 && control(line[0]).kind == CONTROL_BUTTON)
     return lay_button(line[0], stacked_buttons);
-  if (line.size() <= MOST_ALIGNED) return lay_pieces(line);
+  const bool all_buttons = others_are_buttons && control(line[0]).kind == CONTROL_BUTTON;
+  if (line.size() <= MOST_ALIGNED && !all_buttons) return lay_pieces(line);
   grid_->addLayout(pack_line(line), row_++, 0, 1, columns_);
 }
 
@@ -179,6 +210,7 @@ QWidget* TLayouter::lay_body() {
 QWidget* TLayouter::scrolled(QWidget* body) {
   if (body->sizeHint().height() <= parent_->screen()->availableSize().height() * MOST_OF_SCREEN) return body;
   auto* area = new QScrollArea(parent_);
+  area->setFocusPolicy(Qt::NoFocus);
   area->setFrameShape(QFrame::NoFrame);
   area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   area->setWidgetResizable(true);
@@ -226,24 +258,24 @@ QLayout* TLayouter::with_column(QWidget* body) {
   return box;
 }
 
-QDialogButtonBox::ButtonRole role_of(TButtonRole role) {
-  switch (role) {
-    case BUTTON_DEFAULT:
-      return QDialogButtonBox::AcceptRole;
-    case BUTTON_CANCEL:
-      return QDialogButtonBox::RejectRole;
-    default:
-      return QDialogButtonBox::ResetRole;  // stands apart, at the left
-  }
+bool accepts_last(const QWidget& widget) {
+  const int order = widget.style()->styleHint(QStyle::SH_DialogButtonLayout, nullptr, &widget);
+  return order == QDialogButtonBox::GnomeLayout || order == QDialogButtonBox::MacLayout;
 }
 
-// In the order of the desktop.
-QDialogButtonBox* TLayouter::bottom_row() {
-  auto* box = new QDialogButtonBox(parent_);
+// Buttons that close are at the right, in the order of the desktop; others stand apart.
+QLayout* TLayouter::bottom_row() {
+  TLine plain, closing;
   for (const int index : plan_.bottom)
-    box->addButton(static_cast<QPushButton*>(widget(index).body()), role_of(control(index).role));
-  for (int i = 0; i < box->layout()->count(); ++i)
-    if (QWidget* button = box->layout()->itemAt(i)->widget()) result_.tab_stops.push_back(button);
+    (control(index).role == BUTTON_PLAIN ? plain : closing).push_back(index);
+  if (accepts_last(*parent_)) std::reverse(closing.begin(), closing.end());
+  auto* box = new QHBoxLayout;
+  box->setSpacing(LINE_GAP);
+  for (const int index : plain) box->addWidget(widget(index).body());
+  box->addStretch(1);
+  for (const int index : closing) box->addWidget(widget(index).body());
+  note_stops(plain);
+  note_stops(closing);
   return box;
 }
 
@@ -255,7 +287,7 @@ TLaidOut TLayouter::lay_out() {
   box->setContentsMargins(MARGIN, MARGIN, MARGIN, MARGIN);
   box->setSpacing(PART_GAP);
   if (!plan_.lines.empty() || !plan_.column.empty()) box->addLayout(with_column(lay_body()), 1);
-  if (!plan_.bottom.empty()) box->addWidget(bottom_row());
+  if (!plan_.bottom.empty()) box->addLayout(bottom_row());
   return std::move(result_);
 }
 

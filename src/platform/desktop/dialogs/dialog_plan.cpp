@@ -52,6 +52,18 @@ std::size_t column_line(const TDialog& dialog, const std::vector<TLine>& lines) 
   return lines.size() - first >= SHORTEST_COLUMN ? first : lines.size();
 }
 
+bool can_have_caption(TControlKind kind) {
+  switch (kind) {
+    case CONTROL_LABEL:
+    case CONTROL_CHECK:
+    case CONTROL_RADIO:
+    case CONTROL_BUTTON:
+      return false;
+    default:
+      return true;
+  }
+}
+
 }  // namespace
 
 TDialogPlan plan_of(const TDialog& dialog) {
@@ -76,16 +88,11 @@ bool is_tall(const TControl& control) {
   }
 }
 
-bool has_caption(const TControl& control) {
-  switch (control.kind) {
-    case CONTROL_LABEL:
-    case CONTROL_CHECK:
-    case CONTROL_RADIO:
-    case CONTROL_BUTTON:
-      return false;
-    default:
-      return !control.label.empty();
-  }
+bool leads_to_next(const TDialog& dialog, int control) {
+  if (dialog[control].kind != CONTROL_LABEL || control + 1 >= dialog.count()) return false;
+  return dialog[control + 1].label.empty() && can_have_caption(dialog[control + 1].kind);
 }
+
+bool has_caption(const TControl& control) { return !control.label.empty() && can_have_caption(control.kind); }
 
 }  // namespace zephyl

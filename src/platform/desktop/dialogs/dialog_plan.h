@@ -25,5 +25,7 @@ TDialogPlan plan_of(const TDialog& dialog);
 bool is_tall(const TControl& control);
 // Its label stands beside or above it, not on it.
 bool has_caption(const TControl& control);
+// A label that speaks for the control behind it, which has none of its own.
+bool leads_to_next(const TDialog& dialog, int control);
 
 }  // namespace zephyl

@@ -2,7 +2,7 @@
 
 #include <QAbstractButton>
 #include <QButtonGroup>
-#include <QGridLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
 #include <QShowEvent>
@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <map>
 
+#include "platform/desktop/dialogs/dialog_plan.h"
 #include "platform/desktop/dialogs/mnemonics.h"
 #include "platform/dialog.h"
 
@@ -37,7 +38,7 @@ QString without_colon(const std::string& label) {
 // A control without a label goes by the words in front of it.
 QString name_of(const TDialog& dialog, int control) {
   if (!dialog[control].label.empty()) return without_colon(dialog[control].label);
-  const bool words_in_front = control > 0 && dialog[control - 1].kind == CONTROL_LABEL;
+  const bool words_in_front = control > 0 && leads_to_next(dialog, control - 1);
   return words_in_front ? without_colon(dialog[control - 1].label) : QString::fromStdString(dialog.title);
 }
 
@@ -121,11 +122,13 @@ void TDialogWindow::build() {
     widgets_.push_back(make_control_widget(*this, i, dialog_[i], content_));
   shape_ = shape_of(dialog_);
   group_radio_buttons();
+  tie_words();
   const std::vector<QString> labels = labels_with_mnemonics(dialog_);
   for (std::size_t i = 0; i < widgets_.size(); ++i) widgets_[i]->sync(dialog_.controls[i], labels[i]);
   const TLaidOut laid_out = lay_out(dialog_, widgets_, content_);
   chain_tab_stops(laid_out.tab_stops);
   layout()->addWidget(content_);
+  content_->show();
   layout()->setSizeConstraint(laid_out.can_grow ? QLayout::SetDefaultConstraint : QLayout::SetFixedSize);
   content_->setMinimumWidth(fontMetrics().horizontalAdvance(QString::fromStdString(dialog_.title)) +
                             FRAME_BUTTONS);
@@ -136,6 +139,11 @@ void TDialogWindow::name_controls() {
   for (int i = 0; i < dialog_.count(); ++i)
     if (dialog_[i].kind != CONTROL_LABEL)
       widgets_[static_cast<std::size_t>(i)]->set_name(name_of(dialog_, i));
+}
+
+void TDialogWindow::tie_words() {
+  for (int i = 0; i < dialog_.count(); ++i)
+    if (leads_to_next(dialog_, i)) static_cast<QLabel*>(widget_of(i))->setBuddy(widget_of(i + 1));
 }
 
 void TDialogWindow::group_radio_buttons() {

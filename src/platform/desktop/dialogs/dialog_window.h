@@ -37,6 +37,7 @@ class TDialogWindow : public QDialog, private TDialogUser {
   void sync();
   void build();
   void name_controls();
+  void tie_words();
   void group_radio_buttons();
   void chain_tab_stops(const std::vector<QWidget*>& stops);
   void focus_first();

@@ -1,6 +1,5 @@
 // Check boxes, radio buttons, buttons, sliders and pictures.
 
-#include <QBoxLayout>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QImage>
@@ -75,15 +74,10 @@ class TButtonWidget : public TControlWidget {
 class TSliderWidget : public TControlWidget {
  public:
   TSliderWidget(TDialogUser& user, int index, QWidget* parent) : TControlWidget(user, index) {
-    body_ = new QWidget(parent);
-    slider_ = new QSlider(Qt::Horizontal, body_);
-    number_ = new QLabel(body_);
+    body_ = slider_ = new QSlider(Qt::Horizontal, parent);
+    companion_ = number_ = new QLabel(parent);
     number_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     slider_->setMinimumWidth(slider_->fontMetrics().averageCharWidth() * 24);
-    auto* layout = new QHBoxLayout(body_);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(slider_, 1);
-    layout->addWidget(number_);
     tab_stops_ = {slider_};
     QObject::connect(slider_, &QSlider::valueChanged, [this](int value) {
       TControlWidget::act([index = index_, value](TDialog& dialog) { set_value(dialog, index, value); });

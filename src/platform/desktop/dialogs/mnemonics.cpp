@@ -9,9 +9,11 @@ namespace zephyl {
 
 namespace {
 
-bool wants_letter(const TControl& control) {
+bool wants_letter(const TDialog& dialog, int index) {
+  const TControl& control = dialog[index];
   switch (control.kind) {
     case CONTROL_LABEL:
+      return leads_to_next(dialog, index) && wants_letter(dialog, index + 1);
     case CONTROL_PICTURE:
       return false;
     case CONTROL_TEXT:
@@ -51,12 +53,13 @@ QString marked(const QString& text, qsizetype letter) {
 std::vector<QString> labels_with_mnemonics(const TDialog& dialog) {
   std::vector<QString> labels;
   QSet<QChar> taken;
-  for (const TControl& control : dialog.controls) {
-    const QString text = QString::fromStdString(control.label);
-    const qsizetype letter = wants_letter(control) ? free_letter(text, taken) : -1;
+  for (int i = 0; i < dialog.count(); ++i) {
+    const QString text = QString::fromStdString(dialog[i].label);
+    const qsizetype letter = wants_letter(dialog, i) ? free_letter(text, taken) : -1;
     if (letter >= 0) taken.insert(text[letter].toLower());
-    // A label proper shows its text as it is.
-    labels.push_back(control.kind == CONTROL_LABEL ? text : marked(text, letter));
+    // Words that lead nowhere show as they are.
+    const bool plain = dialog[i].kind == CONTROL_LABEL && !leads_to_next(dialog, i);
+    labels.push_back(plain ? text : marked(text, letter));
   }
   return labels;
 }

@@ -8,7 +8,7 @@ namespace zephyl {
 
 namespace {
 
-constexpr int MEASURED_ROWS = 500;
+constexpr int MEASURED_ROWS = 300;
 
 bool same_columns(const std::vector<TColumn>& a, const std::vector<TColumn>& b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const TColumn& one, const TColumn& other) {

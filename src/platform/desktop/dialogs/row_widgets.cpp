@@ -1,7 +1,6 @@
 #include "platform/desktop/dialogs/row_widgets.h"
 
 #include <QApplication>
-#include <QBoxLayout>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -15,7 +14,6 @@ namespace zephyl {
 
 namespace {
 
-constexpr int FILTER_GAP = 4;
 constexpr int NARROWEST_ROWS = 14;  // in average characters
 constexpr int WIDEST_ROWS = 60;
 constexpr int CELL_PADDING = 14;
@@ -65,10 +63,12 @@ class TListView : public QListView {
     setUniformItemSizes(true);
     setItemDelegate(new TLineDelegate(this));
   }
-  void fit(const TControl&) { updateGeometry(); }
+  void fit(const TControl&) {
+    width_ = rows_.text_width(0, fontMetrics()) + CELL_PADDING;
+    updateGeometry();
+  }
   QSize sizeHint() const override {
-    const int width = rows_.text_width(0, fontMetrics()) + CELL_PADDING;
-    return view_size(*this, bounded_width(width, *this), lines_ * row_height());
+    return view_size(*this, bounded_width(width_, *this), lines_ * row_height());
   }
   QSize minimumSizeHint() const override {
     return {bounded_width(0, *this), std::min(lines_, 3) * row_height() + 2 * frameWidth()};
@@ -79,6 +79,7 @@ class TListView : public QListView {
 
   const TRowModel& rows_;
   int lines_;
+  int width_ = 0;
 };
 
 class TTableView : public QTableView {
@@ -141,7 +142,8 @@ class TComboWidget : public TRowsWidget {
     combo_->setMaxVisibleItems(COMBO_LINES);
     combo_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     combo_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    assemble(combo_, false, parent);
+    assemble(combo_, parent);
+    filter_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     QObject::connect(combo_, &QComboBox::currentIndexChanged, [this](int line) { line_chosen(line); });
   }
   // The model goes before the combo.
@@ -170,7 +172,7 @@ class TViewWidget : public TRowsWidget {
   TViewWidget(TDialogUser& user, int index, int lines, QWidget* parent)
       : TRowsWidget(user, index), view_(new TView(model_, lines, parent)) {
     view_->setModel(&model_);
-    assemble(view_, true, parent);
+    assemble(view_, parent);
     QObject::connect(view_->selectionModel(), &QItemSelectionModel::currentRowChanged,
                      [this](const QModelIndex& current) { line_chosen(current.row()); });
     QObject::connect(view_, &QAbstractItemView::doubleClicked, [this] { line_activated(); });
@@ -217,17 +219,10 @@ void TFilterLine::show_match(bool matches) {
   setAccessibleDescription(matches ? "" : "No row matches");
 }
 
-void TRowsWidget::assemble(QWidget* rows, bool filter_above, QWidget* parent) {
-  body_ = new QWidget(parent);
-  filter_ = new TFilterLine(rows, body_);
-  auto* layout = new QBoxLayout(filter_above ? QBoxLayout::TopToBottom : QBoxLayout::RightToLeft, body_);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(FILTER_GAP);
-  layout->addWidget(filter_, 0);
-  layout->addWidget(rows, 1);
-  if (!filter_above) filter_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+void TRowsWidget::assemble(QWidget* rows, QWidget* parent) {
+  body_ = rows;
+  companion_ = filter_ = new TFilterLine(rows, parent);
   tab_stops_ = {filter_, rows};
-  filter_->hide();
   QObject::connect(filter_, &QLineEdit::textChanged, [this](const QString& text) { narrow(text); });
 }
 
@@ -246,8 +241,7 @@ void TRowsWidget::renew_filter(const TControl& control) {
   const QSignalBlocker blocker(filter_);
   filter_->clear();
   filter_->show_match(true);
-  const bool may_be_long = control.kind != CONTROL_TABLE;
-  filter_->setVisible(may_be_long && static_cast<int>(control.rows.size()) > LONG_ROWS);
+  filtering_ = control.kind != CONTROL_TABLE && static_cast<int>(control.rows.size()) > LONG_ROWS;
 }
 
 // What nothing matches is left out of account: the rows stay as they are. The first that matches is chosen

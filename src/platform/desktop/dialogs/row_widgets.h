@@ -35,8 +35,9 @@ class TRowsWidget : public TControlWidget {
  protected:
   void show(const TControl& control, const QString& label) override;
 
-  // Puts rows and filter line into one body. filter_above: else it stands to the right.
-  void assemble(QWidget* rows, bool filter_above, QWidget* parent);
+  bool shows_companion() const override { return filtering_; }
+  // What shows the rows, and the filter line with it.
+  void assemble(QWidget* rows, QWidget* parent);
   // The view takes line `line` as its current one; -1 none.
   virtual void show_line(int line) = 0;
   // The model has new rows.
@@ -46,14 +47,15 @@ class TRowsWidget : public TControlWidget {
   void line_activated();
 
   TRowModel model_;
+  TFilterLine* filter_ = nullptr;
 
  private:
   void narrow(const QString& filter);
   void renew_filter(const TControl& control);
 
-  TFilterLine* filter_ = nullptr;
-  int selected_ = -1;  // row of the control
-  bool narrowing_ = false;
+  int selected_ = -1;       // row of the control
+  bool filtering_ = false;  // the rows are many
+  bool narrowing_ = false;  // the filter changes just now
 };
 
 }  // namespace zephyl
