@@ -134,9 +134,9 @@ TEST_F(custom_functions, run_as_the_body_of_a_numeric_operator) {
 }
 
 TEST_F(custom_functions, are_plotted_without_a_trace) {
-  write_program("F", {"func(a)", "a*7->B", "out B", "{a,a}->{B}", "outList({B})", "Circle(0,0,a)", "a*2->xMax", "a^(2)"});
+  write_program("Fun", {"func(a)", "a*7->B", "out B", "{a,a}->{B}", "outList({B})", "Circle(0,0,a)", "a*2->xMax", "a^(2)"});
+  eval("Fun(x)->f1(x)");
   eval("5->B");
-  eval("F(x)->f1(x)");
   eval("20->xMax");
   const TAnswers before = answers;
   clear_drawing();
@@ -153,8 +153,8 @@ TEST_F(custom_functions, are_plotted_without_a_trace) {
 }
 
 TEST_F(custom_functions, are_plotted_until_a_tap) {
-  write_program("F", {"func(a)", "Summ(k,k,1,1000)"});
-  eval("F(x)->f1(x)");
+  write_program("Fun", {"func(a)", "Summ(k,k,1,1000)"});
+  eval("Fun(x)->f1(x)");
   state.calcMode = PLOT_MODE;
   platform_.ticks_per_look = 5;
   platform_.pen_downs = {{20, 250}};
@@ -163,7 +163,7 @@ TEST_F(custom_functions, are_plotted_until_a_tap) {
   EXPECT_FALSE(errors.error_flag);
   EXPECT_FALSE(state.program_running);
   platform_.pen_downs.clear();
-  EXPECT_EQ(eval("F(1)"), "500500");
+  EXPECT_EQ(eval("Fun(1)"), "500500");
 }
 
 TEST_F(custom_functions, see_the_answer_and_leave_their_own) {
