@@ -11,6 +11,9 @@
 #include "engine/state.h"
 #include "engine/tokens.h"
 #include "platform/events.h"
+#include "plot/custom_function.h"
+#include "plot/drawing.h"
+#include "plot/plot.h"
 #include "programs/function_header.h"
 #include "programs/program.h"
 #include "programs/program_cache.h"
@@ -128,6 +131,39 @@ TEST_F(custom_functions, run_as_the_body_of_a_numeric_operator) {
   EXPECT_EQ(eval("Summ(Gun(n),n,1,3)"), "10");
   EXPECT_EQ(eval("Seq(Fun(n),n,1,3)"), "Result in List Answer");
   EXPECT_EQ(list(ANSWER_RECORD), "1 4 9");
+}
+
+TEST_F(custom_functions, are_plotted_without_a_trace) {
+  write_program("Fun", {"func(a)", "a*7->B", "out B", "{a,a}->{B}", "outList({B})", "Circle(0,0,a)", "a*2->xMax", "a^(2)"});
+  eval("Fun(x)->f1(x)");
+  eval("5->B");
+  eval("20->xMax");
+  const TAnswers before = answers;
+  clear_drawing();
+  state.calcMode = PLOT_MODE;
+  EXPECT_EQ(evaluate_plot_function(PLOT_FUNCTION, 3.0, 0.0, 0), 9.0);
+  plot_it();
+  EXPECT_FALSE(plot_cancelled);
+  EXPECT_EQ(memory("B"), 5.0);
+  EXPECT_EQ(plot_variables.xMax, 20.0);
+  EXPECT_EQ(answers.ans, before.ans);
+  EXPECT_FALSE(drawing_present());
+  EXPECT_FALSE(state.program_running);
+  EXPECT_EQ(message(), "none");
+}
+
+TEST_F(custom_functions, are_plotted_until_a_tap) {
+  write_program("Fun", {"func(a)", "Summ(k,k,1,1000)"});
+  eval("Fun(x)->f1(x)");
+  state.calcMode = PLOT_MODE;
+  platform_.ticks_per_look = 5;
+  platform_.pen_downs = {{20, 250}};
+  plot_it();
+  EXPECT_TRUE(plot_cancelled);
+  EXPECT_FALSE(errors.error_flag);
+  EXPECT_FALSE(state.program_running);
+  platform_.pen_downs.clear();
+  EXPECT_EQ(eval("Fun(1)"), "500500");
 }
 
 TEST_F(custom_functions, see_the_answer_and_leave_their_own) {
