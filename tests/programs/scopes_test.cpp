@@ -6,6 +6,8 @@
 #include "engine/expression.h"
 #include "engine/memory.h"
 #include "engine/records.h"
+#include "persistence/save_items.h"
+#include "persistence/state_file.h"
 #include "programs/program_fixture.h"
 
 namespace zephyl {
@@ -134,6 +136,19 @@ TEST_F(scopes, clearing_is_local_too) {
   EXPECT_EQ(list(0), "1 2");
   EXPECT_EQ(cell(0), 5);
   EXPECT_EQ(string(0), "old");
+}
+
+TEST_F(scopes, a_state_that_is_loaded_is_local_too) {
+  eval("{1,2}->{A}");
+  eval("3->A");
+  for (bool& checked : save_items.checked) checked = true;
+  save_state(folder_.file("kept.state").c_str());
+  eval("{8,9}->{A}");
+  eval("4->A");
+  run_lines({"loadState(\"" + folder_.file("kept") + "\")", "A*10+getListElem({A},1)->B", "out B"});
+  EXPECT_EQ(memory("B"), 31);
+  EXPECT_EQ(memory("A"), 4);
+  EXPECT_EQ(list(0), "8 9");
 }
 
 TEST_F(scopes, out_functions_of_what_is_no_variable_are_errors_in_a_program) {
