@@ -59,7 +59,8 @@ class running_program : public desktop {
 
   void pass(int milliseconds) {
     QElapsedTimer timer;
-    for (timer.start(); timer.elapsed() < milliseconds;) QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+    for (timer.start(); timer.elapsed() < milliseconds;)
+      QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
   }
 };
 

@@ -19,10 +19,13 @@ class scopes : public programs {
     const ListRecord& record = stores.lists[index];
     if (!record.defined) return "undefined";
     std::string text;
-    for (int i = 0; i <= record.last; ++i) text += (i ? " " : "") + std::to_string(static_cast<int>(record.elements[i].re));
+    for (int i = 0; i <= record.last; ++i)
+      text += (i ? " " : "") + std::to_string(static_cast<int>(record.elements[i].re));
     return text;
   }
-  static double cell(int index) { return stores.matrices[index].defined ? stores.matrices[index].cells[0][0] : -1.0; }
+  static double cell(int index) {
+    return stores.matrices[index].defined ? stores.matrices[index].cells[0][0] : -1.0;
+  }
   static std::string string(int index) { return stores.strings[index].text; }
 };
 
@@ -81,8 +84,8 @@ TEST_F(scopes, lists_matrices_and_strings_come_back) {
   eval("{1,2}->{A}");
   eval("initMatrix(1,1,5)->[A]");
   eval("\"old\"->str1");
-  run_lines({"{7,8,9}->{A}", "{3,4}->{B}", "initMatrix(2,2,9)->[A]", "initMatrix(2,2,1)->[B]", "\"new\"->str1",
-             "\"more\"->str2"});
+  run_lines({"{7,8,9}->{A}", "{3,4}->{B}", "initMatrix(2,2,9)->[A]", "initMatrix(2,2,1)->[B]",
+             "\"new\"->str1", "\"more\"->str2"});
   EXPECT_EQ(standing_error(), "");
   EXPECT_EQ(list(0), "1 2");
   EXPECT_EQ(list(1), "undefined");
