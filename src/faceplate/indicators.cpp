@@ -27,10 +27,12 @@ bool shown_in(int modes) {
   return state.calcMode >= BASE_MODE && state.calcMode <= LIST_MODE && (modes & mode_bit(state.calcMode));
 }
 
-// The picture of a setting; a value out of range shows the first.
+// The picture of a setting; for a value out of range, with the alarm of that, the first.
 template <int COUNT>
 const char* choice(const char* const (&names)[COUNT], int value) {
-  return names[value >= 0 && value < COUNT ? value : 0];
+  if (value >= 0 && value < COUNT) return names[value];
+  platform().show_message("bitmap not found", "Bitmap error");
+  return names[0];
 }
 
 void paint_ac_and_arrows(TSurface& surface) {

@@ -105,6 +105,8 @@ bool dropped(int key, bool tap) {
 }  // namespace
 
 int key_pressed_decoder(bool& needs_repaint, int key) {
+  // The dead pixel of the plot screen is a key to the hit test only.
+  if (state.calcMode == PLOT_MODE && key == 0) return KEY_CONSUMED;
   key_click();
   return do_key(needs_repaint, key);
 }

@@ -63,7 +63,7 @@ int rotate_or_calculate(int) {
 }
 
 constexpr TKeyRow rows[] = {
-    {0, 0, none},  // the dead pixel, which the hit test reports and nobody hears
+    {0, 0, none},  // the dead pixel
     {1, 1, action(call<open_plot_setup>)},
     {2, 2, action(call<open_plot_functions>)},
     {3, 3, action(call<zoom_in>)},

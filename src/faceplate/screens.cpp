@@ -13,6 +13,7 @@
 #include "faceplate/result_line_view.h"
 #include "faceplate/table_screens.h"
 #include "faceplate/title.h"
+#include "platform/platform.h"
 #include "plot/plot.h"
 #include "plot/plot_variables.h"
 
@@ -173,7 +174,10 @@ constexpr void (*screen_painters[])(TSurface& surface) = {paint_base,         pa
 
 void paint_screen(TSurface& surface) {
   refresh_title();
-  if (state.calcMode >= BASE_MODE && state.calcMode <= LIST_MODE) screen_painters[state.calcMode](surface);
+  if (state.calcMode >= BASE_MODE && state.calcMode <= LIST_MODE)
+    screen_painters[state.calcMode](surface);
+  else
+    platform().show_message("bitmap not found", "Bitmap error");
   if (state.alpha_active) paint_alpha_overlay(surface);
 }
 

@@ -44,7 +44,7 @@ class alpha : public face {
   static std::string text() { return alpha_entry.text; }
 };
 
-TEST_F(alpha, the_orange_key_8_writes_a_string) {
+TEST_F(alpha, the_blue_key_8_writes_a_string) {
   tap_keys({1, 24});
   EXPECT_TRUE(state.alpha_active);
   EXPECT_EQ(alpha_entry.kind, ALPHA_STRING);

@@ -12,6 +12,7 @@
 #include "engine/state.h"
 #include "faceplate/face.h"
 #include "faceplate/key_maps.h"
+#include "faceplate/key_path.h"
 #include "faceplate/modes.h"
 #include "plot/plot_variables.h"
 #include "plot/zoom_locks.h"
@@ -324,8 +325,19 @@ TEST_F(keys_plot, the_height_of_a_surface_is_doubled_and_halved) {
   tap_key(18);
   EXPECT_EQ(plot_variables.zScale, 1.1e100);
   plot_variables.zScale = 1e100;
-  tap_key(18);
+  on_pen_down(110, 278);
   EXPECT_EQ(plot_variables.zScale, 2e100);
+  on_pen_up(110, 278);
+  paint();
+  EXPECT_EQ(plot_variables.zScale, 1e100);  // as far as a plot goes
+}
+
+TEST_F(keys_plot, the_dead_pixel_is_reported_and_does_nothing) {
+  settings.keyClick = 1;
+  bool needs_repaint = false;
+  EXPECT_EQ(key_pressed_decoder(needs_repaint, 0), KEY_CONSUMED);
+  EXPECT_FALSE(needs_repaint);
+  EXPECT_EQ(platform_.clicks, 0);
 }
 
 TEST_F(keys_plot, on_a_plane_those_two_keys_are_never_reached) {

@@ -48,6 +48,17 @@ TEST_F(screens, a_mode_out_of_range_paints_nothing) {
   state.calcMode = 8;
   paint();
   EXPECT_EQ(picture(), before);
+  EXPECT_EQ(message(), "Bitmap error | bitmap not found");
+}
+
+TEST_F(screens, a_setting_out_of_range_shows_its_first_picture_and_is_reported) {
+  settings.angleMode = 0;
+  paint();
+  const std::vector<TColour> first = picture();
+  settings.angleMode = 5;
+  paint();
+  EXPECT_EQ(picture(), first);
+  EXPECT_EQ(message(), "Bitmap error | bitmap not found");
 }
 
 TEST_F(screens, a_skin_out_of_range_is_the_first) {

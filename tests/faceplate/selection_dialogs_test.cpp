@@ -22,6 +22,7 @@
 #include "faceplate/face.h"
 #include "faceplate/modes.h"
 #include "plot/plot_variables.h"
+#include "programs/program_input.h"
 #include "stats/stats.h"
 
 namespace zephyl {
@@ -619,6 +620,18 @@ TEST_F(items_to_clear, expressions_in_slots) {
   EXPECT_TRUE(enabled()[6]);
   clear({7});
   EXPECT_EQ(history.count, 0);
+}
+
+TEST_F(items_to_clear, answers_to_prompts) {
+  EXPECT_FALSE(has_last_answers());
+  entry_line.expression.count = 1;
+  ask_for_variable("x?", SLOT_X);
+  type("5");
+  keep_last_answer();
+  state.at_prompt = state.program_running = false;
+  EXPECT_TRUE(enabled()[8]);
+  clear({9});
+  EXPECT_FALSE(has_last_answers());
 }
 
 TEST_F(items_to_clear, all_goes_with_the_last_box) {

@@ -33,10 +33,11 @@ TEST_F(cell_texts, what_fits_is_written_with_ten_digits) {
 }
 
 TEST_F(cell_texts, what_is_too_wide_goes_scientific_with_what_fits) {
-  EXPECT_EQ(text(1.0 / 3.0, NARROW), "3.3e-1");
-  EXPECT_EQ(text(-1.0 / 3.0, NARROW), "-3e-1");
-  EXPECT_EQ(text(123456789.0, NARROW), "1.23e8");
-  EXPECT_EQ(text(-1.23456789e-100, NARROW), "-1e-100");
+  EXPECT_EQ(text(1.0 / 3.0, small_text_width("3.33e-1")), "3.33e-1");
+  EXPECT_EQ(text(1.0 / 3.0, small_text_width("3.33e-1") - 1), "3.3e-1");
+  EXPECT_EQ(text(-1.0 / 3.0, small_text_width("-3.3e-1")), "-3.3e-1");
+  EXPECT_EQ(text(123456789.0, small_text_width("1.23456789e8")), "123456789");
+  EXPECT_EQ(text(1234567891234.0, small_text_width("1.23456789e12")), "1.23456789e12");
   EXPECT_EQ(text(1.0 / 3.0, 1), "3e-1");
 }
 
@@ -49,7 +50,7 @@ TEST_F(cell_texts, as_many_decimals_as_fit_and_never_more) {
 
 TEST_F(cell_texts, each_width_has_its_own_form) {
   EXPECT_EQ(text(1.0 / 3.0, WIDE), "0.3333333333");
-  EXPECT_EQ(text(1.0 / 3.0, NARROW), "3.3e-1");
+  EXPECT_LT(text(1.0 / 3.0, NARROW).size(), 8u);
   EXPECT_EQ(text(1.0 / 3.0, WIDE), "0.3333333333");
 }
 

@@ -52,6 +52,16 @@ TEST(dialog_plan, buttons_above_the_closing_line_make_a_column) {
   EXPECT_EQ(plan.bottom, (std::vector<int>{14, 15}));
 }
 
+TEST(dialog_plan, one_button_above_the_closing_line_joins_it) {
+  TDialog dialog(147, "Select Constant");
+  dialog.add(combo_control("Constant:", {"a"}));
+  dialog.add(button_control("Elements"));
+  add_ok_cancel(dialog);
+  const TDialogPlan plan = plan_of(dialog);
+  EXPECT_EQ(plan.lines, (TLines{{0}}));
+  EXPECT_EQ(plan.bottom, (std::vector<int>{1, 2, 3}));
+}
+
 TEST(dialog_plan, two_buttons_are_no_column) {
   TDialog dialog(168, "Select Expression");
   dialog.add(list_control("", {"a"}));

@@ -15,6 +15,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QSlider>
 #include <QTableView>
 #include <algorithm>
@@ -444,6 +445,22 @@ TEST_F(dialog_window, a_picture_is_sharp_at_a_whole_multiple) {
   ASSERT_EQ(shown.size(), QSize(16, 12));
   for (int y = 0; y < 12; ++y)
     for (int x = 0; x < 16; ++x) ASSERT_EQ(shown.pixel(x, y) & 0xffffffu, surface.pixel(x / 2, y / 2));
+}
+
+TEST_F(dialog_window, a_large_picture_leaves_half_of_the_screen_free) {
+  open(of({picture_control("", TSurface(200, 213))}));
+  const int height = widget<QLabel>(0)->pixmap(Qt::ReturnByValue).height();
+  EXPECT_LE(height, window_->screen()->availableSize().height() / 2);
+  EXPECT_EQ(height % 213, 0);
+}
+
+TEST_F(dialog_window, a_text_to_read_shows_as_a_whole) {
+  QString text;
+  for (int i = 0; i < 60; ++i) text += "words and more words ";
+  TDialog long_text = of({text_control("Help:", text.toStdString(), 2)});
+  open(std::move(long_text));
+  const auto* area = widget<QPlainTextEdit>(0);
+  EXPECT_GE(area->height(), 10 * area->fontMetrics().lineSpacing());
 }
 
 TEST_F(dialog_window, nothing_is_cut_off) {

@@ -8,6 +8,7 @@
 #include "engine/records.h"
 #include "faceplate/dialogs/running.h"
 #include "plot/drawing.h"
+#include "programs/program_input.h"
 #include "stats/stats.h"
 
 namespace zephyl {
@@ -48,12 +49,11 @@ bool any_plot_function() {
 bool any_program_function() { return any_function(FIRST_PROGRAM_FUNCTION, FIRST_PROGRAM_FUNCTION + 8); }
 bool any_history() { return history.count > 0; }
 bool any_drawing() { return drawing.drawing_used; }
-bool nothing() { return false; }
 
 // Whether there is something to clear, by TClearItem from CLEAR_VARIABLES on.
 constexpr bool (*holds_data[])() = {any_variable,      any_statistics, any_list,    any_matrix,
                                     any_plot_function, any_drawing,    any_history, any_program_function,
-                                    nothing,           any_string};
+                                    has_last_answers,  any_string};
 static_assert(std::size(holds_data) == CLEAR_ALL_ITEMS - 1);
 
 void add_boxes(TDialog& dialog) {

@@ -53,9 +53,11 @@ class TDesktopPlatform::TBoxOpen {
 TDesktopPlatform::TDesktopPlatform(std::string folder)
     : folder_(std::move(folder)),
       window_([this](const TInput& input) { take(input); }, [this] { return close_wished(); }),
+      announcer_(window_),
       click_(folder_ + "/click.wav") {
   // Qt takes on the user's locale. Numbers of the calculator are written with a point, whatever that says.
   std::setlocale(LC_NUMERIC, "C");
+  window_.when_ring_moves([this] { announcer_.focus_moved(); });
   timer_.setSingleShot(true);
   QObject::connect(&timer_, &QTimer::timeout, [this] { round(); });
 }
@@ -124,6 +126,7 @@ void TDesktopPlatform::round() {
   if (!stopped_) compose();
   const bool more = !stopped_ && work();
   working_ = false;
+  if (!stopped_) announcer_.look();
   if (more || paint_requested_ || !queue_.empty()) wake();
 }
 

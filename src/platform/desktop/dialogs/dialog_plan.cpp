@@ -46,10 +46,21 @@ TLine take_lines(std::vector<TLine>& lines, std::size_t first) {
   return row;
 }
 
-std::size_t column_line(const TDialog& dialog, const std::vector<TLine>& lines) {
+// The first of the last lines that are a button each.
+std::size_t single_buttons(const TDialog& dialog, const std::vector<TLine>& lines) {
   std::size_t first = lines.size();
   while (first > 0 && lines[first - 1].size() == 1 && all_buttons(dialog, lines[first - 1])) --first;
-  return lines.size() - first >= SHORTEST_COLUMN ? first : lines.size();
+  return first;
+}
+
+// One button by itself goes with those that close; many make a column.
+void place_single_buttons(const TDialog& dialog, TDialogPlan& plan) {
+  const std::size_t first = single_buttons(dialog, plan.lines);
+  const std::size_t count = plan.lines.size() - first;
+  if (count >= SHORTEST_COLUMN) plan.column = take_lines(plan.lines, first);
+  if (count != 1 || first == 0 || plan.bottom.empty()) return;
+  const TLine single = take_lines(plan.lines, first);
+  plan.bottom.insert(plan.bottom.begin(), single.begin(), single.end());
 }
 
 bool can_have_caption(TControlKind kind) {
@@ -70,7 +81,7 @@ TDialogPlan plan_of(const TDialog& dialog) {
   TDialogPlan plan;
   plan.lines = lines_of(dialog);
   plan.bottom = take_lines(plan.lines, bottom_line(dialog, plan.lines));
-  plan.column = take_lines(plan.lines, column_line(dialog, plan.lines));
+  place_single_buttons(dialog, plan);
   return plan;
 }
 

@@ -14,7 +14,7 @@ struct TDialogPlan {
   std::vector<std::vector<int>> lines;
   // Buttons below one another at the end of the body: three or more.
   std::vector<int> column;
-  // The row at the bottom: from the line that closes the dialog on.
+  // The row at the bottom: from the line that closes the dialog on, and a single button above it.
   std::vector<int> bottom;
 };
 

@@ -7,6 +7,7 @@
 #include <QPixmap>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QSlider>
 #include <algorithm>
 #include <cstring>
@@ -126,12 +127,19 @@ class TPictureWidget : public TControlWidget {
     const QImage image = image_of(control.picture[0]);
     if (image == shown_ && !picture_->pixmap(Qt::ReturnByValue).isNull()) return;
     shown_ = image;
-    QImage enlarged = image.scaled(image.size() * user_.picture_zoom());
+    QImage enlarged = image.scaled(image.size() * zoom_for(image));
     enlarged.setDevicePixelRatio(picture_->devicePixelRatioF());
     picture_->setPixmap(QPixmap::fromImage(enlarged));
   }
 
  private:
+  // That of the calculator, unless the picture would fill the screen.
+  int zoom_for(const QImage& image) const {
+    const double room = picture_->screen()->availableSize().height() * picture_->devicePixelRatioF() / 2.0;
+    const int most = static_cast<int>(room) / std::max(image.height(), 1);
+    return std::clamp(user_.picture_zoom(), 1, std::max(most, 1));
+  }
+
   QLabel* picture_;
   QImage shown_;
 };
