@@ -1,5 +1,6 @@
-// A program's loop, `x+sqRt(n)->x` for n from 1 on: one statement a round of the main loop, beside the same loop in bc
-// and Python, each a process of its own whose processor time counts. And calls of functions and programs.
+// A program's loop, `x+sqRt(n)->x` for n from 1 on: one statement a round of the main loop, beside the same
+// loop in bc and Python, each a process of its own whose processor time counts. And calls of functions and
+// programs.
 
 #include <benchmark/benchmark.h>
 #include <sys/resource.h>
@@ -84,7 +85,8 @@ constexpr int SLOT_N = SLOT_SMALL_A + 13;
 
 // Around a statement, `rounds` times.
 std::vector<ProgramStatement> loop(int rounds, const ProgramStatement& body) {
-  return {express((std::to_string(rounds) + "->n").c_str()), plain(STATEMENT_LOOP, SLOT_N), body, plain(STATEMENT_END)};
+  return {express((std::to_string(rounds) + "->n").c_str()), plain(STATEMENT_LOOP, SLOT_N), body,
+          plain(STATEMENT_END)};
 }
 
 void run_to_end(const char* name) {
@@ -103,7 +105,9 @@ void run_program(benchmark::State& bench, const std::vector<ProgramStatement>& s
   bench.SetItemsProcessed(bench.iterations() * rounds);
 }
 
-double seconds(const timeval& time) { return static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_usec); }
+double seconds(const timeval& time) {
+  return static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_usec);
+}
 
 double time_of_children() {
   rusage usage;
@@ -123,7 +127,9 @@ void run_command(benchmark::State& bench, const std::string& command, int rounds
 constexpr int ROUNDS = 1000000;
 constexpr int BC_ROUNDS = 100000;
 
-void loop_program(benchmark::State& bench) { run_program(bench, loop(ROUNDS, express("x+sqRt(n)->x")), ROUNDS); }
+void loop_program(benchmark::State& bench) {
+  run_program(bench, loop(ROUNDS, express("x+sqRt(n)->x")), ROUNDS);
+}
 
 void loop_native(benchmark::State& bench) {
   for (auto _ : bench) {
@@ -134,13 +140,15 @@ void loop_native(benchmark::State& bench) {
 }
 
 void loop_python(benchmark::State& bench) {
-  run_command(bench, "python3 -c 'from math import sqrt\nx=0.0\nfor n in range(1," + std::to_string(ROUNDS + 1) +
-                         "): x=x+sqrt(n)'",
+  run_command(bench,
+              "python3 -c 'from math import sqrt\nx=0.0\nfor n in range(1," + std::to_string(ROUNDS + 1) +
+                  "): x=x+sqrt(n)'",
               ROUNDS);
 }
 
 void loop_bc(benchmark::State& bench) {
-  run_command(bench, "echo 'x=0; for (n=1; n<=" + std::to_string(BC_ROUNDS) + "; n++) x=x+sqrt(n)' | bc -l", BC_ROUNDS);
+  run_command(bench, "echo 'x=0; for (n=1; n<=" + std::to_string(BC_ROUNDS) + "; n++) x=x+sqrt(n)' | bc -l",
+              BC_ROUNDS);
 }
 
 constexpr int CALLS = 10000;

@@ -1,5 +1,6 @@
-// Bytes as a program file: they are read as any file is, and what loads is run for a bounded number of statements. The
-// program may call itself, as a program and as a function; dialogs are cancelled, prompts and pauses answered.
+// Bytes as a program file: they are read as any file is, and what loads is run for a bounded number of
+// statements. The program may call itself, as a program and as a function; dialogs are cancelled, prompts and
+// pauses answered.
 
 #include <unistd.h>
 

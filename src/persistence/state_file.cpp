@@ -6,6 +6,8 @@
 #include "engine/evaluator.h"
 #include "engine/expression.h"
 #include "engine/faults.h"
+#include "engine/hooks.h"
+#include "engine/memory.h"
 #include "engine/operations.h"
 #include "persistence/drawing_store.h"
 #include "persistence/save_items.h"
@@ -34,6 +36,12 @@ void read_records(TLineReader& reader) {
   }
 }
 
+// What a program loads is local to its run, as what it stores.
+void keep_stores() {
+  for (const int first : {SLOT_MATRIX_A, SLOT_LIST_A, SLOT_STR1})
+    for (int slot = first; slot < first + ANSWER_RECORD; ++slot) hooks.about_to_store(slot);
+}
+
 // The string is copied: loading may change its place.
 void load_operation(TFamilyCall& call) {
   TStringOperands operands;
@@ -41,6 +49,7 @@ void load_operation(TFamilyCall& call) {
   const std::string name(operands.first->text);
   set_number_result(call.result_register, {});
   if (name.empty()) return;
+  keep_stores();
   load_state((name + EXTENSION).c_str());
   clear_faults();
 }

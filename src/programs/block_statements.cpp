@@ -13,8 +13,8 @@ bool opens_block(int number) {
   return number == STATEMENT_IF || number == STATEMENT_WHILE || number == STATEMENT_LOOP;
 }
 
-// Where the block of the statement at `index` ends, and goes on when its condition fails. False without a matching
-// `end`.
+// Where the block of the statement at `index` ends, and goes on when its condition fails. False without a
+// matching `end`.
 bool find_targets(int index, TBlock& block) {
   int depth = 0;
   for (int i = index + 1; i < program.statement_count; ++i) {
@@ -29,7 +29,8 @@ bool find_targets(int index, TBlock& block) {
   return false;
 }
 
-// Opens a block whose body begins behind the current statement; null, with the error reported, if that can't be.
+// Opens a block whose body begins behind the current statement; null, with the error reported, if that can't
+// be.
 TBlock* push_block(TBlockKind kind) {
   if (run.block_top >= BLOCK_LIMIT) {
     fail_at_limit("Reached maximum number of program blocks");

@@ -1,5 +1,5 @@
-// The programs that ship with the calculator: one text in the form of program files, joined from resources/programs/
-// when the calculator is built. They can be run and looked at, not changed.
+// The programs that ship with the calculator: one text in the form of program files, joined from
+// resources/programs/ when the calculator is built. They can be run and looked at, not changed.
 #pragma once
 
 #include <cstddef>
@@ -8,8 +8,8 @@
 
 namespace zephyl {
 
-// The whole text: the lines of one program after the other, each program beginning with its line "N: name". The last
-// one only closes the text.
+// The whole text: the lines of one program after the other, each program beginning with its line "N: name".
+// The last one only closes the text.
 const char* built_in_text();
 std::size_t built_in_size();
 

@@ -24,8 +24,8 @@ namespace {
 
 // --- Arguments
 
-// What a list, matrix or string argument is copied from: a store as it was before the arguments went to their slots, or
-// what stands beside a register. Null, with the error reported, for none.
+// What a list, matrix or string argument is copied from: a store as it was before the arguments went to their
+// slots, or what stands beside a register. Null, with the error reported, for none.
 const ListRecord* list_argument(int number) {
   const bool stored = number >= 0 && number < ANSWER_RECORD;
   const ListRecord* const list = stored ? list_at_begin(number) : list_by_number(number);
@@ -61,13 +61,16 @@ void bind_argument(int slot, const TArgument& argument) {
   keep_store(slot);
   switch (slot_class(slot)) {
     case CLASS_MATRIX:
-      if (const MatrixRecord* from = matrix_argument(argument.matrix)) copy_matrix(stores.matrices[slot - SLOT_MATRIX_A], *from);
+      if (const MatrixRecord* from = matrix_argument(argument.matrix))
+        copy_matrix(stores.matrices[slot - SLOT_MATRIX_A], *from);
       return;
     case CLASS_LIST:
-      if (const ListRecord* from = list_argument(argument.list)) copy_list(stores.lists[slot - SLOT_LIST_A], *from);
+      if (const ListRecord* from = list_argument(argument.list))
+        copy_list(stores.lists[slot - SLOT_LIST_A], *from);
       return;
     case CLASS_STRING:
-      if (const TString* from = string_argument(argument.string)) copy_string(stores.strings[slot - SLOT_STR1], *from);
+      if (const TString* from = string_argument(argument.string))
+        copy_string(stores.strings[slot - SLOT_STR1], *from);
       return;
     case CLASS_FUNCTION:
       return bind_function(slot, argument.value);
@@ -78,12 +81,14 @@ void bind_argument(int slot, const TArgument& argument) {
   }
 }
 
-// The kinds have been checked against the header, which is read again here: a file may have changed in between.
+// The kinds have been checked against the header, which is read again here: a file may have changed in
+// between.
 void bind_arguments(const TFuncFrame& arguments) {
   TFunctionHeader header;
   read_function_header("", header);
   if (header.count > arguments.count) return report_error(ERR_ARGUMENT_COUNT);
-  for (int i = 0; i < header.count && !errors.error_flag; ++i) bind_argument(header.slots[i], arguments.arguments[i]);
+  for (int i = 0; i < header.count && !errors.error_flag; ++i)
+    bind_argument(header.slots[i], arguments.arguments[i]);
 }
 
 // --- The level of a function
@@ -111,7 +116,8 @@ bool begin_level() {
   return true;
 }
 
-// From here on the function is the program that runs; until then errors are those of the statement that called.
+// From here on the function is the program that runs; until then errors are those of the statement that
+// called.
 void begin_part() {
   run.part = {};
   std::snprintf(run.part.name, sizeof run.part.name, "%s", program.name);

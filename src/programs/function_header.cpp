@@ -31,7 +31,8 @@ bool is_statement_line(const char* line, int number) {
 void read_description(TProgramLines& lines, const char* line, std::string& description) {
   if (!is_statement_line(line, STATEMENT_DESCRIPTION)) return;
   while ((line = lines.next()) && !value_of(line, 'I'))
-    if (const char* const value = value_of(line, 'Z')) description.assign(value, std::min<std::size_t>(std::strlen(value), DESCRIPTION_SIZE - 1));
+    if (const char* const value = value_of(line, 'Z'))
+      description.assign(value, std::min<std::size_t>(std::strlen(value), DESCRIPTION_SIZE - 1));
 }
 
 int read_header_lines(const char* name, TFunctionHeader& header, std::string* description) {
@@ -88,8 +89,9 @@ struct TKindWords {
 };
 
 const TKindWords& words_of(int slot) {
-  static constexpr TKindWords value = {"val", "value"}, matrix = {"matrix", "matrix"}, list = {"list", "list"},
-                              function = {"func", "function"}, string = {"str", "string"};
+  static constexpr TKindWords value = {"val", "value"}, matrix = {"matrix", "matrix"},
+                              list = {"list", "list"}, function = {"func", "function"},
+                              string = {"str", "string"};
   switch (slot_class(slot)) {
     case CLASS_MATRIX:
       return matrix;
@@ -114,7 +116,8 @@ std::string arguments_text(const TFunctionHeader& header) {
     const auto same = [&](int slot) { return &words_of(slot) == &words; };
     const auto all = std::count_if(header.slots, header.slots + header.count, same);
     const auto before = std::count_if(header.slots, header.slots + i, same);
-    text += words.short_word + (all > 1 ? std::to_string(before + 1) : "") + (i + 1 < header.count ? ", " : "");
+    text +=
+        words.short_word + (all > 1 ? std::to_string(before + 1) : "") + (i + 1 < header.count ? ", " : "");
   }
   return text;
 }

@@ -102,12 +102,15 @@ void start_function_run() {
 
 namespace {
 
-void leave_waiting() { state.key_wait = state.program_running = state.at_prompt = state.at_function_prompt = false; }
+void leave_waiting() {
+  state.key_wait = state.program_running = state.at_prompt = state.at_function_prompt = false;
+}
 
 // The editor opens on the statement that an error came from.
 void go_to_error() {
   remember_place(errors.error_program, errors.error_line, errors.error_line);
-  if (std::strncmp(program.name, errors.error_program, sizeof errors.error_program - 1) == 0) return_to_place();
+  if (std::strncmp(program.name, errors.error_program, sizeof errors.error_program - 1) == 0)
+    return_to_place();
 }
 
 // What a program of the keypad leaves as it found it.

@@ -56,7 +56,8 @@ int run_call(const ProgramStatement& statement) {
 int return_to_caller() {
   pop_frame();
   take_part(run.calls[--run.call_top]);
-  if (load_program(run.part.name, run.part.built_in) < 0) return fail_in_code("Could no return to calling program");
+  if (load_program(run.part.name, run.part.built_in) < 0)
+    return fail_in_code("Could no return to calling program");
   return next_statement();
 }
 

@@ -3,8 +3,8 @@
 
 namespace zephyl {
 
-constexpr int MENU_LIMIT = 100;       // items
-constexpr int MENU_TEXT_SIZE = 40;    // of an item, with its 0
+constexpr int MENU_LIMIT = 100;     // items
+constexpr int MENU_TEXT_SIZE = 40;  // of an item, with its 0
 constexpr int MENU_TITLE_SIZE = 120;
 
 struct TMenu {

@@ -9,8 +9,8 @@ namespace zephyl {
 // ERR_UNEXPECTED for none.
 bool is_scalar_slot(int slot);
 
-// The comparison of `if` and `while`, on real parts. False, with the error reported, where an operand is no number or
-// the comparison isn't known.
+// The comparison of `if` and `while`, on real parts. False, with the error reported, where an operand is no
+// number or the comparison isn't known.
 bool condition_holds(const ProgramStatement& statement);
 
 }  // namespace zephyl

@@ -22,7 +22,9 @@ namespace {
 
 constexpr char GLYPH_UNKNOWN = static_cast<char>(255);
 
-std::string scalar_text(const TValue& value, bool small) { return format_result(value.re, value.im, small, true); }
+std::string scalar_text(const TValue& value, bool small) {
+  return format_result(value.re, value.im, small, true);
+}
 
 std::string list_text(int index) {
   const ListRecord* const list = list_by_number(index);
@@ -69,7 +71,9 @@ std::string operand_text(int slot, bool small) {
   return "";
 }
 
-std::string operand_name(int slot, bool small) { return slot == OPERAND_ANSWER ? "Ans" : slot_name(slot, !small); }
+std::string operand_name(int slot, bool small) {
+  return slot == OPERAND_ANSWER ? "Ans" : slot_name(slot, !small);
+}
 
 void show_prompt_line(const char* text) {
   std::snprintf(run.prompt_line, sizeof run.prompt_line, "%s", text);

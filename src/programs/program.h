@@ -7,11 +7,11 @@
 
 namespace zephyl {
 
-constexpr int STATEMENT_LIMIT = 99;      // the most statements of a program
-constexpr int STATEMENT_TEXT_SIZE = 25;  // 24 characters and a 0
-constexpr int KEY_LIMIT = 100;           // tokens of a stored expression
+constexpr int STATEMENT_LIMIT = 99;       // the most statements of a program
+constexpr int STATEMENT_TEXT_SIZE = 25;   // 24 characters and a 0
+constexpr int KEY_LIMIT = 100;            // tokens of a stored expression
 constexpr int PROGRAM_NAME_LENGTH = 120;  // with its 0
-constexpr int DESCRIPTION_SIZE = 1061;   // 1060 characters and a 0
+constexpr int DESCRIPTION_SIZE = 1061;    // 1060 characters and a 0
 
 // Numbers that program files carry. Others up to LAST_STATEMENT_NUMBER are empty rows, which run as nothing.
 enum TStatementNumber {
@@ -45,8 +45,15 @@ enum TStatementNumber {
 };
 constexpr int LAST_STATEMENT_NUMBER = 67;
 
-enum TCompare { COMPARE_EQUAL = 0, COMPARE_NOT_EQUAL, COMPARE_LESS, COMPARE_GREATER, COMPARE_GREATER_EQUAL,
-                COMPARE_LESS_EQUAL, COMPARE_COUNT };
+enum TCompare {
+  COMPARE_EQUAL = 0,
+  COMPARE_NOT_EQUAL,
+  COMPARE_LESS,
+  COMPARE_GREATER,
+  COMPARE_GREATER_EQUAL,
+  COMPARE_LESS_EQUAL,
+  COMPARE_COUNT
+};
 
 // What the operands mean depends on `number`; the functions below read them.
 struct ProgramStatement {
@@ -78,8 +85,8 @@ constexpr int FUNC_SLOT_OFFSET = 14;  // a character of a `func(` statement's te
 constexpr int OPERAND_ZERO = -2;      // operand_slot's word for the constant 0
 constexpr int OPERAND_ANSWER = -1;    // and for Ans
 
-// The memory slot that an operand names, OPERAND_ANSWER, or OPERAND_ZERO (only var1). Numbers from files may lead
-// anywhere: the slot is not checked.
+// The memory slot that an operand names, OPERAND_ANSWER, or OPERAND_ZERO (only var1). Numbers from files may
+// lead anywhere: the slot is not checked.
 int left_operand(const ProgramStatement& statement);   // var0 of if, while, out, fout
 int right_operand(const ProgramStatement& statement);  // var1 of if, while
 inline int label_slot(const ProgramStatement& statement) { return statement.label + FIRST_LABEL_SLOT; }
@@ -93,7 +100,8 @@ bool is_function_program();
 // No statements, cursor and top at 0, no description; the name stays.
 void clear_program();
 
-// Where the user was in the program edited or stopped by an error last; it is there again when that program loads.
+// Where the user was in the program edited or stopped by an error last; it is there again when that program
+// loads.
 void remember_place(const char* name, int cursor, int top);
 // Puts cursor and top where they were, if `program` is the remembered one.
 void return_to_place();

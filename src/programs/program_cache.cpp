@@ -50,7 +50,8 @@ int place_for_another() {
 // Takes a text down while it is read; gives up on one that is too long.
 class TTextKeeper {
  public:
-  TTextKeeper(const char* name, bool built_in) : place_(kept.places[index_]), name_(name), built_in_(built_in) {
+  TTextKeeper(const char* name, bool built_in)
+      : place_(kept.places[index_]), name_(name), built_in_(built_in) {
     place_.line_count = place_.size = 0;
     forget_statement_hints(index_);
   }
@@ -111,7 +112,8 @@ int finish_loading(const char* name, bool built_in) {
   return program.statement_count;
 }
 
-// Out of a kept text. A text that was read once can fail only by its version, which a nested function isn't asked for.
+// Out of a kept text. A text that was read once can fail only by its version, which a nested function isn't
+// asked for.
 bool read_kept(int index, const TReadRules& rules) {
   const TKeptProgram& place = kept.places[index];
   const char* line = place.text;

@@ -47,9 +47,13 @@ std::vector<std::string> names_where(bool functions) {
 
 }  // namespace
 
-std::string program_path(const std::string& name) { return data_file_path(file_name(name), EXTENSION, false); }
+std::string program_path(const std::string& name) {
+  return data_file_path(file_name(name), EXTENSION, false);
+}
 
-std::string output_path(const std::string& name) { return data_file_path(file_name(name), OUTPUT_EXTENSION, false); }
+std::string output_path(const std::string& name) {
+  return data_file_path(file_name(name), OUTPUT_EXTENSION, false);
+}
 
 bool program_exists(const std::string& name) { return file_exists(program_path(name)); }
 
@@ -62,7 +66,8 @@ std::vector<std::string> program_names() {
   const fs::path folder = fs::path(program_path("")).parent_path();
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
     std::error_code ignored;
-    if (entry->path().extension() != std::string(".") + EXTENSION || !entry->is_regular_file(ignored)) continue;
+    if (entry->path().extension() != std::string(".") + EXTENSION || !entry->is_regular_file(ignored))
+      continue;
     names.push_back(program_name(entry->path().stem().string()));
   }
   std::sort(names.begin(), names.end(), comes_first);

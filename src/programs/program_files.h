@@ -6,8 +6,8 @@
 
 namespace zephyl {
 
-// The path of a program's file, in a folder that is made if it isn't there. A '/' of the name, which no file name may
-// hold, stands in it as '|', which no program name may hold.
+// The path of a program's file, in a folder that is made if it isn't there. A '/' of the name, which no file
+// name may hold, stands in it as '|', which no program name may hold.
 std::string program_path(const std::string& name);
 // Likewise the file that `fout` statements of the program write.
 std::string output_path(const std::string& name);

@@ -25,9 +25,12 @@ TExpression last_answers[SLOT_COUNT];
 
 bool is_slot(int slot) { return slot >= 0 && slot < SLOT_COUNT; }
 
-bool has_entry_line(int mode) { return mode != PLOT_MODE && mode != PERIODIC_MODE && mode != PROGRAM_EDIT_MODE; }
+bool has_entry_line(int mode) {
+  return mode != PLOT_MODE && mode != PERIODIC_MODE && mode != PROGRAM_EDIT_MODE;
+}
 
-// An expression that is there already stands as after its evaluation: a token begins another one, an arrow edits it.
+// An expression that is there already stands as after its evaluation: a token begins another one, an arrow
+// edits it.
 void put_on_line(const TExpression& expression) {
   entry_line.expression = expression;
   entry_line.cursor = expression.count;

@@ -26,7 +26,8 @@ bool fail_to_read() {
 
 bool refuse_later_release(const TReadRules& rules) {
   if (rules.shows_messages)
-    platform().show_message("The program requires a more recent version of Zephyl in order to load.", "Program Error");
+    platform().show_message("The program requires a more recent version of Zephyl in order to load.",
+                            "Program Error");
   report_error(ERR_PROGRAM_VERSION);
   return fail_to_read();
 }
@@ -48,7 +49,8 @@ bool read_version(const char* value, const TReadRules& rules) {
 
 bool begin_statement(const char* value, const TReadRules& rules) {
   const int number = read_number(value, INT16_MIN, INT16_MAX);
-  if (number > LAST_STATEMENT_NUMBER || program.statement_count >= STATEMENT_LIMIT) return refuse_later_release(rules);
+  if (number > LAST_STATEMENT_NUMBER || program.statement_count >= STATEMENT_LIMIT)
+    return refuse_later_release(rules);
   ProgramStatement& statement = program.statements[program.statement_count++];
   statement = {};
   statement.number = number;
@@ -116,7 +118,8 @@ bool read_program_line(const char* line, const TReadRules& rules) {
     case 'I':
       return begin_statement(value, rules);
     case 'Z':
-      if (!rules.skips_description) std::snprintf(program.description, sizeof program.description, "%s", value);
+      if (!rules.skips_description)
+        std::snprintf(program.description, sizeof program.description, "%s", value);
       return true;
     default:
       break;

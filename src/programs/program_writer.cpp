@@ -3,8 +3,8 @@
 #include "engine/errors.h"
 #include "persistence/text_file.h"
 #include "programs/program.h"
-#include "programs/programs.h"
 #include "programs/program_files.h"
+#include "programs/programs.h"
 
 namespace zephyl {
 
@@ -40,7 +40,8 @@ std::string program_file_text(const TProgram& source) {
   std::string text;
   append_line(text, std::string("N: ") + source.name);
   append_line(text, std::string("V: ") + VERSION_TEXT);
-  for (int i = 0; i < source.statement_count; ++i) append_statement(text, source.statements[i], source.description);
+  for (int i = 0; i < source.statement_count; ++i)
+    append_statement(text, source.statements[i], source.description);
   return text;
 }
 

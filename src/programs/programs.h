@@ -10,12 +10,12 @@ void reset_programs();
 
 // --- The main loop and the keys
 
-// One round with an empty queue: runs one statement. True if there is more to do at once; false where no program runs
-// or it waits (for an answer, a key, the end of a drag).
+// One round with an empty queue: runs one statement. True if there is more to do at once; false where no
+// program runs or it waits (for an answer, a key, the end of a drag).
 bool program_tick();
 
-// The run key: stops the program that runs, or runs the one under edit, or asks which to run. Also for the run key that
-// ends a pause: call it before `end_pause`.
+// The run key: stops the program that runs, or runs the one under edit, or asks which to run. Also for the
+// run key that ends a pause: call it before `end_pause`.
 void run_key_pressed();
 // Any other key that ends the pause of an `out` statement.
 void end_pause();
@@ -24,15 +24,16 @@ bool program_can_be_stopped();
 
 // --- What screens show
 
-// The text that an `out` statement left in the place of the entry line; empty where the entry line itself shows.
+// The text that an `out` statement left in the place of the entry line; empty where the entry line itself
+// shows.
 const char* program_prompt_line();
 // The window's title while a program runs, or in program edit; null where it is the usual one.
 const char* program_title();
 
 // --- The program in memory
 
-// Writes it to its file if it has a name and is none of the built-in ones. False, with nothing said, if the file could
-// not be written; the file is then as it was. True also where there was nothing to write.
+// Writes it to its file if it has a name and is none of the built-in ones. False, with nothing said, if the
+// file could not be written; the file is then as it was. True also where there was nothing to write.
 bool save_program();
 
 }  // namespace zephyl

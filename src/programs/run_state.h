@@ -1,4 +1,5 @@
-// What is under way: the program that runs, its blocks, subroutines and calls, and the functions that interrupted it.
+// What is under way: the program that runs, its blocks, subroutines and calls, and the functions that
+// interrupted it.
 #pragma once
 
 #include <cstdint>
@@ -24,7 +25,8 @@ struct TBlock {
   double limit = 0.0;                   // of a loop
 };
 
-// The program that runs, and how much of the stacks is its own: what lies below belongs to those that wait for it.
+// The program that runs, and how much of the stacks is its own: what lies below belongs to those that wait
+// for it.
 struct TRunningPart {
   char name[PROGRAM_NAME_LENGTH] = "";
   bool built_in = false;
@@ -47,7 +49,7 @@ struct TWaitingPart {
 };
 
 struct TRun {
-  int level = 0;         // run_level: 0 no program, 1 one from the keypad or a function, above 1 functions within
+  int level = 0;  // run_level: 0 no program, 1 one from the keypad or a function, above 1 functions within
   bool key_run = false;  // the one of level 1 came from the keypad
   TRunningPart part;
   TBlock blocks[BLOCK_LIMIT];
@@ -61,7 +63,7 @@ struct TRun {
   int waiting_count = 0;
   char title[PROGRAM_NAME_LENGTH] = "";        // the program that came from the keypad
   char prompt_line[STATEMENT_TEXT_SIZE] = "";  // shown in the place of the entry line
-  int in_target = 0;                           // the memory slot that the prompt asks for, 0 to 8 of a function
+  int in_target = 0;  // the memory slot that the prompt asks for, 0 to 8 of a function
 };
 extern TRun run;
 

@@ -1,5 +1,5 @@
-// Variables are local to a run: a frame for each level of it keeps what they were, and gives it back when the level
-// ends. What is made global is changed in all frames, and so stays.
+// Variables are local to a run: a frame for each level of it keeps what they were, and gives it back when the
+// level ends. What is made global is changed in all frames, and so stays.
 #pragma once
 
 namespace zephyl {
@@ -18,12 +18,12 @@ bool push_frame();
 void pop_frame();
 void pop_frames_to(int count);
 
-// Before the store of a slot (90 to 129) changes: its value goes into the last frame, once. Of the function slots, 110
-// to 118, it is the working copy. Reports ERR_MEMORY_LIMIT when there is no room.
+// Before the store of a slot (90 to 129) changes: its value goes into the last frame, once. Of the function
+// slots, 110 to 118, it is the working copy. Reports ERR_MEMORY_LIMIT when there is no room.
 void keep_store(int slot);
 
-// The value of a variable (slot 0 to 109, 120 to 129) stays when the run ends. Reports ERR_MEMORY_LIMIT when there is
-// no room.
+// The value of a variable (slot 0 to 109, 120 to 129) stays when the run ends. Reports ERR_MEMORY_LIMIT when
+// there is no room.
 void make_slot_global(int slot);
 
 // A store, 0 to 9, as it was when the last frame was pushed; null if it was undefined then.

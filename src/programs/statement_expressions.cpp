@@ -82,8 +82,8 @@ bool any_token(const TExpression& expression, bool (*is_wanted)(TToken)) {
   return std::any_of(expression.tokens, expression.tokens + expression.count, is_wanted);
 }
 
-// FNV-1a over the tokens, those of named function slots in their place. False, with ERR_MEMORY_LIMIT reported, where
-// slots read one another without an end.
+// FNV-1a over the tokens, those of named function slots in their place. False, with ERR_MEMORY_LIMIT
+// reported, where slots read one another without an end.
 bool add_to_hash(std::uint32_t& hash, const TExpression& expression, int depth) {
   if (depth > HASH_DEPTH_LIMIT) {
     report_error(ERR_MEMORY_LIMIT);
@@ -125,7 +125,8 @@ int find_form(const TKey& key) {
   return NONE;
 }
 
-// An empty one, else the one whose last use is longest ago. There always is one: walks within one another are few.
+// An empty one, else the one whose last use is longest ago. There always is one: walks within one another are
+// few.
 int form_to_replace() {
   int oldest = NONE;
   for (int i = 0; i < COMPILED_COUNT; ++i) {
@@ -148,8 +149,8 @@ int compile_form(const TExpression& expression) {
   return index;
 }
 
-// Found by its key, or compiled. A store into a function slot happens when an expression compiles: one that does it is
-// never kept.
+// Found by its key, or compiled. A store into a function slot happens when an expression compiles: one that
+// does it is never kept.
 int find_or_compile(int index, const TExpression& expression) {
   if (any_token(expression, stores_function)) return compile_form(expression);
   TKey key;

@@ -53,7 +53,9 @@ std::string compare_word(int compare) {
   return compare >= 0 && compare < COMPARE_COUNT ? compare_words[compare] : "?";
 }
 
-std::string quoted_text(const ProgramStatement& statement) { return std::string("\"") + statement.text + '"'; }
+std::string quoted_text(const ProgramStatement& statement) {
+  return std::string("\"") + statement.text + '"';
+}
 
 std::string with_text(const std::string& words, const ProgramStatement& statement) {
   return statement.text[0] ? words + ", " + quoted_text(statement) : words;
@@ -105,7 +107,9 @@ std::string out_text(const ProgramStatement& statement, TNameForm form) {
   return with_text(statement.pause ? words + " (p)" : words, statement);
 }
 
-std::string function_name(const ProgramStatement& statement) { return 'f' + std::to_string(statement.func + 1) + "()"; }
+std::string function_name(const ProgramStatement& statement) {
+  return 'f' + std::to_string(statement.func + 1) + "()";
+}
 
 std::string func_text(const ProgramStatement& statement, TNameForm form) {
   TFunctionHeader header;

@@ -1,5 +1,5 @@
-// What each statement does. A handler gets the statement at run.part.pc and gives the index of the next one: that may
-// lie outside of the program, which ends it, as END_OF_PROGRAM does.
+// What each statement does. A handler gets the statement at run.part.pc and gives the index of the next one:
+// that may lie outside of the program, which ends it, as END_OF_PROGRAM does.
 #pragma once
 
 #include "engine/errors.h"
@@ -57,7 +57,7 @@ int run_description(const ProgramStatement& statement);
 int next_statement();
 // Reports the error of a statement that can't go on, with a box where somebody sees it. Gives END_OF_PROGRAM.
 int fail_statement(const char* box_text, const char* box_title, TError error);
-int fail_in_code(const char* box_text);  // ERR_PROGRAM_CODE, under "Program Error"
+int fail_in_code(const char* box_text);   // ERR_PROGRAM_CODE, under "Program Error"
 int fail_at_limit(const char* box_text);  // ERR_MEMORY_LIMIT, under "Limit"
 
 }  // namespace zephyl

@@ -8,7 +8,6 @@ namespace zephyl {
 
 namespace {
 
-
 TExpression stored[WORKING_FUNCTION_COUNT];
 bool taken = false;
 

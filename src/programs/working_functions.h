@@ -1,4 +1,5 @@
-// f1() to f9() while a program runs: the function slots are its working copies then, and what was stored is put away.
+// f1() to f9() while a program runs: the function slots are its working copies then, and what was stored is
+// put away.
 #pragma once
 
 namespace zephyl {

@@ -58,8 +58,8 @@ TEST_F(statements, comparisons_know_the_answer) {
 }
 
 TEST_F(statements, blocks_lie_within_one_another) {
-  run_lines({"1->A", "0->S", "while (A < B)", "stop", "end", "3->B", "while (A <= B)", "if (A = B)", "S+10->S", "else",
-             "S+1->S", "end", "A+1->A", "end", "out S"});
+  run_lines({"1->A", "0->S", "while (A < B)", "stop", "end", "3->B", "while (A <= B)", "if (A = B)",
+             "S+10->S", "else", "S+1->S", "end", "A+1->A", "end", "out S"});
   EXPECT_EQ(memory("S"), 12);
 }
 
@@ -143,8 +143,8 @@ TEST_F(statements, loop_over_what_is_no_number_is_an_error) {
 }
 
 TEST_F(statements, break_leaves_the_innermost_loop) {
-  run_lines({"9->n", "0->S", "2->A", "loop n", "S+1->S", "if (S >= A)", "if (S > 0)", "break", "end", "end", "end",
-             "out n", "out S"});
+  run_lines({"9->n", "0->S", "2->A", "loop n", "S+1->S", "if (S >= A)", "if (S > 0)", "break", "end", "end",
+             "end", "out n", "out S"});
   EXPECT_EQ(memory("n"), 9) << "the variable ends at the limit";
   EXPECT_EQ(memory("S"), 2);
   run_lines({"0->S", "while (S >= 0)", "S+1->S", "if (S >= S)", "break", "end", "end", "S+10->S", "out S"});
@@ -180,8 +180,8 @@ TEST_F(statements, goto_without_its_label_is_an_error) {
 }
 
 TEST_F(statements, goto_out_of_two_blocks_leaves_the_outer_one_open) {
-  const std::string end = run_for_error({"3->n", "loop n", "if (n > 0)", "goto label A", "end", "end", "label A",
-                                         "S+1->S", "out S", "end"});
+  const std::string end = run_for_error(
+      {"3->n", "loop n", "if (n > 0)", "goto label A", "end", "end", "label A", "S+1->S", "out S", "end"});
   // The `end` behind the label closes rounds of the loop. Behind its own end, one more round finds no block.
   EXPECT_EQ(end, "Program Code Error (line 10)");
   EXPECT_EQ(memory("S"), 4);
@@ -193,7 +193,9 @@ TEST_F(statements, goto_within_a_block_keeps_it_open) {
 }
 
 TEST_F(statements, labels_beyond_the_letters_run) {
-  write_file_of("Test", "N: Test\r\nV: 2.7A\r\nI: 8\r\nL: 77\r\nI: 12\r\nI: 7\r\nL: 77\r\nI: 11\r\nE: 33,910,\r\nI: 10\r\n0: 11\r\n");
+  write_file_of("Test",
+                "N: Test\r\nV: 2.7A\r\nI: 8\r\nL: 77\r\nI: 12\r\nI: 7\r\nL: 77\r\nI: 11\r\nE: 33,910,\r\nI: "
+                "10\r\n0: 11\r\n");
   EXPECT_EQ(run_program("Test"), "A=1");
 }
 
@@ -203,8 +205,8 @@ TEST_F(statements, gosub_returns_behind_itself) {
 }
 
 TEST_F(statements, gosubs_lie_within_one_another) {
-  run_lines({"gosub label A", "out S", "stop", "label A", "gosub label B", "S*10->S", "return sub", "label B", "7->S",
-             "return sub"});
+  run_lines({"gosub label A", "out S", "stop", "label A", "gosub label B", "S*10->S", "return sub", "label B",
+             "7->S", "return sub"});
   EXPECT_EQ(memory("S"), 70);
 }
 
@@ -288,7 +290,8 @@ TEST_F(statements, a_called_program_cannot_close_a_block_or_return_from_a_gosub_
   EXPECT_EQ(run_for_error({"3->n", "loop n", "call Sub", "end"}), "Program Code Error (line 1)");
   EXPECT_STREQ(errors.error_program, "Sub");
   write_program("Sub", {"1->A", "return sub"});
-  EXPECT_EQ(run_for_error({"gosub label A", "stop", "label A", "call Sub", "return sub"}), "Program Code Error (line 2)");
+  EXPECT_EQ(run_for_error({"gosub label A", "stop", "label A", "call Sub", "return sub"}),
+            "Program Code Error (line 2)");
   EXPECT_STREQ(errors.error_program, "Sub");
 }
 
@@ -374,7 +377,8 @@ TEST_F(statements, one_statement_runs_a_round) {
 }
 
 TEST_F(statements, numbers_without_a_meaning_run_as_nothing) {
-  write_file_of("Test", "N: Test\r\nV: 2.7A\r\nI: 66\r\nI: 19\r\nI: -7\r\nI: 11\r\nE: 33,910,\r\nI: 10\r\n0: 11\r\n");
+  write_file_of("Test",
+                "N: Test\r\nV: 2.7A\r\nI: 66\r\nI: 19\r\nI: -7\r\nI: 11\r\nE: 33,910,\r\nI: 10\r\n0: 11\r\n");
   EXPECT_EQ(run_program("Test"), "A=1");
 }
 

@@ -196,8 +196,8 @@ TEST_F(custom_functions, work_four_deep_within_a_program) {
 }
 
 TEST_F(custom_functions, skip_what_only_a_user_could_answer) {
-  write_program("Fun", {"func(a)", "Program Description \"Doubles.\"", "in b", "in f1()", "text \"Hi\"", "Menu \"T\"",
-                      "Menu A, \"x\"", "Menu Display", "Menu Clear", "label A", "a*2"});
+  write_program("Fun", {"func(a)", "Program Description \"Doubles.\"", "in b", "in f1()", "text \"Hi\"",
+                        "Menu \"T\"", "Menu A, \"x\"", "Menu Display", "Menu Clear", "label A", "a*2"});
   platform_.dialogs.clear();
   EXPECT_EQ(eval("Fun(4)"), "8");
   EXPECT_TRUE(platform_.dialogs.empty());
@@ -249,9 +249,10 @@ TEST_F(custom_functions, may_call_programs) {
 }
 
 TEST_F(custom_functions, return_to_a_program_that_was_called) {
-  write_program("Fun", {"func(a)", "if (a > 0)", "1->b", "end", "gosub label A", "a", "stop", "label A", "a*2->a", "return sub"});
-  write_program("Sub", {"gosub label B", "stop", "label B", "2->n", "0->S", "loop n", "S+Fun(n)->S", "end", "out S",
-                        "return sub"});
+  write_program("Fun", {"func(a)", "if (a > 0)", "1->b", "end", "gosub label A", "a", "stop", "label A",
+                        "a*2->a", "return sub"});
+  write_program("Sub", {"gosub label B", "stop", "label B", "2->n", "0->S", "loop n", "S+Fun(n)->S", "end",
+                        "out S", "return sub"});
   EXPECT_EQ(run_lines({"call Sub", "S*100->C", "out C"}), "C=600");
 }
 
@@ -297,8 +298,8 @@ TEST_F(custom_functions, evaluate_their_own_function_slots) {
 }
 
 TEST_F(custom_functions, take_a_number_for_a_function) {
-  write_file_of("Fun", std::string("N: F\r\nV: 2.7A\r\nI: 17\r\nT: ") + static_cast<char>(SLOT_F1 + FUNC_SLOT_OFFSET) +
-                         "\r\nI: 16\r\n");
+  write_file_of("Fun", std::string("N: F\r\nV: 2.7A\r\nI: 17\r\nT: ") +
+                           static_cast<char>(SLOT_F1 + FUNC_SLOT_OFFSET) + "\r\nI: 16\r\n");
   eval("x+1->f1()");
   EXPECT_EQ(eval("Fun(-2.5)"), "-2.5");
   settings.complexFormat = ST_COMPLEX_R;

@@ -24,9 +24,20 @@ class menus : public programs {
 };
 
 TEST_F(menus, jump_to_the_label_of_the_item) {
-  const std::vector<std::string> listing = {"Menu Clear", "Menu \"Shapes\"", "Menu A, \"Circle\"", "Menu B, \"Square\"",
-                                            "Menu Display", "0->S", "goto label C", "label A", "1->S", "goto label C",
-                                            "label B", "2->S", "label C", "out S"};
+  const std::vector<std::string> listing = {"Menu Clear",
+                                            "Menu \"Shapes\"",
+                                            "Menu A, \"Circle\"",
+                                            "Menu B, \"Square\"",
+                                            "Menu Display",
+                                            "0->S",
+                                            "goto label C",
+                                            "label A",
+                                            "1->S",
+                                            "goto label C",
+                                            "label B",
+                                            "2->S",
+                                            "label C",
+                                            "out S"};
   EXPECT_EQ(run_choosing("Circle", listing), "S=1");
   EXPECT_EQ(platform_.dialogs.back(), "176 Shapes");
   EXPECT_EQ(run_choosing("Square", listing), "S=2");
@@ -41,7 +52,8 @@ TEST_F(menus, without_a_title_have_the_usual_one) {
 TEST_F(menus, without_items_go_on) { EXPECT_EQ(run_choosing("", {"Menu Display", "5->A", "out A"}), "A=5"); }
 
 TEST_F(menus, keep_their_items_for_the_next_display) {
-  write_program("Test", {"Menu A, \"More\"", "Menu B, \"Done\"", "label A", "S+1->S", "Menu Display", "label B", "out S"});
+  write_program("Test", {"Menu A, \"More\"", "Menu B, \"Done\"", "label A", "S+1->S", "Menu Display",
+                         "label B", "out S"});
   start("Test");
   platform_.dialog_answers.push_back(choosing("Menu Item", "More"));
   platform_.dialog_answers.push_back(choosing("Menu Item", "More"));
@@ -65,9 +77,9 @@ TEST_F(menus, are_cleared_by_their_statement_and_by_a_start) {
 }
 
 TEST_F(menus, jump_as_a_goto_does) {
-  const std::vector<std::string> listing = {"3->n",         "Menu A, \"Out\"", "loop n", "Menu Display",
-                                            "S+1->S",       "end",             "goto label B", "label A", "S+10->S",
-                                            "end",          "label B",         "out S"};
+  const std::vector<std::string> listing = {
+      "3->n",         "Menu A, \"Out\"", "loop n",  "Menu Display", "S+1->S",  "end",
+      "goto label B", "label A",         "S+10->S", "end",          "label B", "out S"};
   EXPECT_EQ(run_choosing("Out", listing), "Program Code Error (line 10)") << "the jump has closed the loop";
   EXPECT_EQ(run_choosing("Gone", {"Menu Z, \"Gone\"", "Menu Display"}), "Program Code Error (line 2)");
 }

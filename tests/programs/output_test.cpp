@@ -101,11 +101,10 @@ TEST_F(output, running_shows_and_goes) {
 // --- Files
 
 TEST_F(output, fout_writes_lines_into_the_file_of_its_program) {
-  run_lines({"5->A", "fout A", "1/4", "fout Ans", "{1,2}->{A}", "fout {A}", "initMatrix(2,3,1)->[B]", "fout [B]",
-             "\"Hi\"->str1", "fout str1", "2->(alpha)", "fout alpha"});
+  run_lines({"5->A", "fout A", "1/4", "fout Ans", "{1,2}->{A}", "fout {A}", "initMatrix(2,3,1)->[B]",
+             "fout [B]", "\"Hi\"->str1", "fout str1", "2->(alpha)", "fout alpha"});
   EXPECT_EQ(standing_error(), "");
-  EXPECT_EQ(written(),
-            "A=\t5\r\nAns=\t0.25\r\n{A}=\t2 rows\r\n[B]=\t2 by 3\r\nstr1=\tHi\r\nalpha=\t2\r\n");
+  EXPECT_EQ(written(), "A=\t5\r\nAns=\t0.25\r\n{A}=\t2 rows\r\n[B]=\t2 by 3\r\nstr1=\tHi\r\nalpha=\t2\r\n");
 }
 
 TEST_F(output, fout_begins_its_file_anew_in_each_run) {

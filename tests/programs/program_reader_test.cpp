@@ -33,7 +33,9 @@ std::string lines_of(std::initializer_list<const char*> lines) {
 class program_reader : public programs {
  protected:
   // Loads a file with these lines behind its name and version.
-  int load(std::initializer_list<const char*> lines) { return load_text("N: P\r\nV: 2.7A\r\n" + lines_of(lines)); }
+  int load(std::initializer_list<const char*> lines) {
+    return load_text("N: P\r\nV: 2.7A\r\n" + lines_of(lines));
+  }
   int load_text(const std::string& text) {
     write_file_of("P", text);
     forget_programs();
@@ -52,7 +54,8 @@ TEST_F(program_reader, begins_a_statement_with_each_number) {
 }
 
 TEST_F(program_reader, fills_the_latest_statement_in_any_order) {
-  ASSERT_EQ(load({"I: 10", "P: 1", "T: sum", "0: 12", "L: -3", "1: 7", "C: 5", "F: 8", "E: 33,36,", "I: 1"}), 2);
+  ASSERT_EQ(load({"I: 10", "P: 1", "T: sum", "0: 12", "L: -3", "1: 7", "C: 5", "F: 8", "E: 33,36,", "I: 1"}),
+            2);
   EXPECT_EQ(statement(0).pause, 1);
   EXPECT_STREQ(statement(0).text, "sum");
   EXPECT_EQ(statement(0).var0, 12);
@@ -159,7 +162,8 @@ TEST_F(program_reader, fails_on_another_letter) {
 }
 
 TEST_F(program_reader, fails_on_a_line_of_another_form) {
-  for (const char* line : {"i: 12", "I:12", "I 12", "I", " I: 12", "[: 1", "/: 1"}) EXPECT_EQ(load({line}), -1) << line;
+  for (const char* line : {"i: 12", "I:12", "I 12", "I", " I: 12", "[: 1", "/: 1"})
+    EXPECT_EQ(load({line}), -1) << line;
 }
 
 TEST_F(program_reader, fails_on_a_line_of_another_letter_in_front_of_the_first_statement) {
@@ -210,9 +214,9 @@ TEST_F(program_reader, takes_a_last_line_without_its_end) { EXPECT_EQ(load_text(
 TEST_F(program_reader, drops_line_feeds_wherever_they_stand) { EXPECT_EQ(load_text("I: 1\n2\r\nI: 1\r"), 2); }
 
 TEST_F(program_reader, reads_what_remains_of_a_file_cut_at_every_byte) {
-  const std::string whole =
-      lines_of({"N: Cut", "V: 2.7A", "I: 59", "Z: A description.", "I: 9", "T: radius", "0: 53", "I: 11",
-                "E: 117,853,9,31,843,931,", "I: 0", "C: 2", "0: 11", "1: 2", "I: 10", "0: 32", "P: 1", "I: 1"});
+  const std::string whole = lines_of({"N: Cut", "V: 2.7A", "I: 59", "Z: A description.", "I: 9", "T: radius",
+                                      "0: 53", "I: 11", "E: 117,853,9,31,843,931,", "I: 0", "C: 2", "0: 11",
+                                      "1: 2", "I: 10", "0: 32", "P: 1", "I: 1"});
   for (std::size_t size = 0; size <= whole.size(); ++size) {
     const int count = load_text(whole.substr(0, size));
     EXPECT_LE(count, 6) << size;
@@ -241,12 +245,12 @@ TEST_F(program_reader, returns_to_the_place_of_the_program_named_last) {
 class program_writer : public program_reader {};
 
 TEST_F(program_writer, writes_only_fields_that_are_not_zero) {
-  ASSERT_EQ(load({"I: 9", "T: radius", "0: 53", "I: 11", "E: 117,853,", "I: 0", "C: 2", "0: 11", "1: -2", "L: 4", "F: 1",
-                  "I: 10", "P: 1", "I: 1"}),
+  ASSERT_EQ(load({"I: 9", "T: radius", "0: 53", "I: 11", "E: 117,853,", "I: 0", "C: 2", "0: 11", "1: -2",
+                  "L: 4", "F: 1", "I: 10", "P: 1", "I: 1"}),
             5);
   EXPECT_EQ(program_file_text(program),
-            lines_of({"N: P", "V: 2.7A", "I: 9", "T: radius", "0: 53", "I: 11", "E: 117,853,", "I: 0", "C: 2", "0: 11",
-                      "1: -2", "L: 4", "F: 1", "I: 10", "P: 1", "I: 1"}));
+            lines_of({"N: P", "V: 2.7A", "I: 9", "T: radius", "0: 53", "I: 11", "E: 117,853,", "I: 0", "C: 2",
+                      "0: 11", "1: -2", "L: 4", "F: 1", "I: 10", "P: 1", "I: 1"}));
 }
 
 TEST_F(program_writer, puts_the_description_behind_its_number) {
@@ -255,8 +259,8 @@ TEST_F(program_writer, puts_the_description_behind_its_number) {
 }
 
 TEST_F(program_writer, writes_what_reads_back_identically) {
-  const std::string text = lines_of({"N: P", "V: 2.7A", "I: 17", "T: \x18rs", "I: 59", "Z: d~~d", "I: 11", "E: 1,2,33280,",
-                                     "I: 40", "I: 51", "T: a", "L: 3", "I: 66"});
+  const std::string text = lines_of({"N: P", "V: 2.7A", "I: 17", "T: \x18rs", "I: 59", "Z: d~~d", "I: 11",
+                                     "E: 1,2,33280,", "I: 40", "I: 51", "T: a", "L: 3", "I: 66"});
   ASSERT_EQ(load_text(text), 6);
   ASSERT_TRUE(save_program());
   EXPECT_EQ(file_content(program_path_of("P")), text);

@@ -167,7 +167,8 @@ TEST_F(run_key, a_program_that_cannot_be_read_is_not_found) {
   EXPECT_FALSE(state.program_running);
   write_file_of("Later", "N: Later\r\nV: 3.0\r\n");
   EXPECT_EQ(run_program("Later"), "Program Version Error");
-  EXPECT_EQ(message(), "Program Error | The program requires a more recent version of Zephyl in order to load.");
+  EXPECT_EQ(message(),
+            "Program Error | The program requires a more recent version of Zephyl in order to load.");
 }
 
 TEST_F(run_key, an_empty_program_runs_to_its_end) {

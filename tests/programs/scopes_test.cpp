@@ -6,6 +6,8 @@
 #include "engine/expression.h"
 #include "engine/memory.h"
 #include "engine/records.h"
+#include "persistence/save_items.h"
+#include "persistence/state_file.h"
 #include "programs/program_fixture.h"
 
 namespace zephyl {
@@ -17,10 +19,13 @@ class scopes : public programs {
     const ListRecord& record = stores.lists[index];
     if (!record.defined) return "undefined";
     std::string text;
-    for (int i = 0; i <= record.last; ++i) text += (i ? " " : "") + std::to_string(static_cast<int>(record.elements[i].re));
+    for (int i = 0; i <= record.last; ++i)
+      text += (i ? " " : "") + std::to_string(static_cast<int>(record.elements[i].re));
     return text;
   }
-  static double cell(int index) { return stores.matrices[index].defined ? stores.matrices[index].cells[0][0] : -1.0; }
+  static double cell(int index) {
+    return stores.matrices[index].defined ? stores.matrices[index].cells[0][0] : -1.0;
+  }
   static std::string string(int index) { return stores.strings[index].text; }
 };
 
@@ -79,8 +84,8 @@ TEST_F(scopes, lists_matrices_and_strings_come_back) {
   eval("{1,2}->{A}");
   eval("initMatrix(1,1,5)->[A]");
   eval("\"old\"->str1");
-  run_lines({"{7,8,9}->{A}", "{3,4}->{B}", "initMatrix(2,2,9)->[A]", "initMatrix(2,2,1)->[B]", "\"new\"->str1",
-             "\"more\"->str2"});
+  run_lines({"{7,8,9}->{A}", "{3,4}->{B}", "initMatrix(2,2,9)->[A]", "initMatrix(2,2,1)->[B]",
+             "\"new\"->str1", "\"more\"->str2"});
   EXPECT_EQ(standing_error(), "");
   EXPECT_EQ(list(0), "1 2");
   EXPECT_EQ(list(1), "undefined");
@@ -134,6 +139,19 @@ TEST_F(scopes, clearing_is_local_too) {
   EXPECT_EQ(list(0), "1 2");
   EXPECT_EQ(cell(0), 5);
   EXPECT_EQ(string(0), "old");
+}
+
+TEST_F(scopes, a_state_that_is_loaded_is_local_too) {
+  eval("{1,2}->{A}");
+  eval("3->A");
+  for (bool& checked : save_items.checked) checked = true;
+  save_state(folder_.file("kept.state").c_str());
+  eval("{8,9}->{A}");
+  eval("4->A");
+  run_lines({"loadState(\"" + folder_.file("kept") + "\")", "A*10+getListElem({A},1)->B", "out B"});
+  EXPECT_EQ(memory("B"), 31);
+  EXPECT_EQ(memory("A"), 4);
+  EXPECT_EQ(list(0), "8 9");
 }
 
 TEST_F(scopes, out_functions_of_what_is_no_variable_are_errors_in_a_program) {

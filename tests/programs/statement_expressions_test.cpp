@@ -23,8 +23,8 @@ TEST_F(kept_forms, follow_a_plot_function_that_changes) {
 }
 
 TEST_F(kept_forms, follow_functions_that_functions_read) {
-  run_lines({"0->S", "2->n", "5->x", "x+1->f2(x)", "f2(x)*10->f1(x)", "loop n", "S*1000+f1(x)->S", "x*2->f2(x)", "end",
-             "out S"});
+  run_lines({"0->S", "2->n", "5->x", "x+1->f2(x)", "f2(x)*10->f1(x)", "loop n", "S*1000+f1(x)->S",
+             "x*2->f2(x)", "end", "out S"});
   EXPECT_EQ(memory("S"), 60100);
 }
 
@@ -34,7 +34,8 @@ TEST_F(kept_forms, store_a_function_each_time) {
 }
 
 TEST_F(kept_forms, follow_the_working_copy_of_a_function) {
-  run_lines({"0->S", "2->n", "5->x", "x+1->f1()", "loop n", "f1()", "S*100+Ans->S", "x*2->f1()", "end", "out S"});
+  run_lines(
+      {"0->S", "2->n", "5->x", "x+1->f1()", "loop n", "f1()", "S*100+Ans->S", "x*2->f1()", "end", "out S"});
   EXPECT_EQ(memory("S"), 610);
 }
 
@@ -51,8 +52,9 @@ TEST_F(kept_forms, functions_that_read_one_another_in_a_circle_are_an_error) {
 
 TEST_F(kept_forms, read_digits_by_the_mode_they_run_in) {
   // 4->baseType (hexadecimal), 5->calcMode (BASE): in the second round "10" is sixteen.
-  write_file_of("Test", "N: Test\r\nV: 2.7A\r\nI: 11\r\nE: 34,910,\r\nI: 4\r\n0: 10\r\nI: 11\r\nE: 33,38,911,\r\n"
-                        "I: 10\r\n0: 12\r\nI: 11\r\nE: 28,1502,\r\nI: 11\r\nE: 29,1503,\r\nI: 1\r\n");
+  write_file_of("Test",
+                "N: Test\r\nV: 2.7A\r\nI: 11\r\nE: 34,910,\r\nI: 4\r\n0: 10\r\nI: 11\r\nE: 33,38,911,\r\n"
+                "I: 10\r\n0: 12\r\nI: 11\r\nE: 28,1502,\r\nI: 11\r\nE: 29,1503,\r\nI: 1\r\n");
   run_program("Test");
   EXPECT_EQ(standing_error(), "");
   EXPECT_EQ(memory("B"), 16);
@@ -141,7 +143,8 @@ TEST_F(kept_programs, survive_the_file_within_a_run) {
 
 TEST_F(kept_programs, too_long_for_their_place_still_load) {
   std::vector<std::string> long_one;
-  for (int i = 0; i < 60; ++i) long_one.push_back("text \"" + std::to_string(i) + std::string(20, 'x') + "\"");
+  for (int i = 0; i < 60; ++i)
+    long_one.push_back("text \"" + std::to_string(i) + std::string(20, 'x') + "\"");
   for (int i = 0; i < 30; ++i) long_one.push_back("1+2+3+4+5+6+7+8+9+1+2+3+4+5+6+7+8+9");
   long_one.push_back("A+1->A");
   long_one.push_back("out A");

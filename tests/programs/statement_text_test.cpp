@@ -18,14 +18,40 @@ class statement_texts : public programs {
 };
 
 TEST_F(statement_texts, of_each_statement) {
-  const std::vector<std::string> listing = {
-      "1: if (A > 0)",   "2: else",           "3: end if",     "4: while (Ans <> theta)", "5: end while",
-      "6: loop n",       "7: end loop n",     "8: call Sub",   "9: return call",          "10: label Q",
-      "11: goto label Q", "12: gosub label alpha", "13: return sub", "14: in r, \"radius\"", "15: in {A}",
-      "16: out A (p), \"Area\"", "17: out Ans", "18: out [B] (p)", "19: fout A",           "20: fout Ans",
-      "21: in f3()",     "22: in f9(), \"f(x)\"", "23: f1()",  "24: text \"Hello\"",      "25: error \"Wrong\"",
-      "26: Menu \"Title\"", "27: Menu C, \"Item\"", "28: Menu Display", "29: Menu Clear", "30: stop",
-      "31: break",       "32: 2+A*3",         "33: if (x <= Ans)", "34: end if"};
+  const std::vector<std::string> listing = {"1: if (A > 0)",
+                                            "2: else",
+                                            "3: end if",
+                                            "4: while (Ans <> theta)",
+                                            "5: end while",
+                                            "6: loop n",
+                                            "7: end loop n",
+                                            "8: call Sub",
+                                            "9: return call",
+                                            "10: label Q",
+                                            "11: goto label Q",
+                                            "12: gosub label alpha",
+                                            "13: return sub",
+                                            "14: in r, \"radius\"",
+                                            "15: in {A}",
+                                            "16: out A (p), \"Area\"",
+                                            "17: out Ans",
+                                            "18: out [B] (p)",
+                                            "19: fout A",
+                                            "20: fout Ans",
+                                            "21: in f3()",
+                                            "22: in f9(), \"f(x)\"",
+                                            "23: f1()",
+                                            "24: text \"Hello\"",
+                                            "25: error \"Wrong\"",
+                                            "26: Menu \"Title\"",
+                                            "27: Menu C, \"Item\"",
+                                            "28: Menu Display",
+                                            "29: Menu Clear",
+                                            "30: stop",
+                                            "31: break",
+                                            "32: 2+A*3",
+                                            "33: if (x <= Ans)",
+                                            "34: end if"};
   write_program("Test", listing);
   load_program("Test", false);
   ASSERT_EQ(program.statement_count, static_cast<int>(listing.size()));
@@ -57,7 +83,9 @@ TEST_F(statement_texts, write_greek_letters_as_glyphs_where_they_are_drawn) {
 }
 
 TEST_F(statement_texts, of_numbers_out_of_range_are_words_too) {
-  write_file_of("Test", "N: Test\r\nV: 2.7A\r\nI: 0\r\nC: 9\r\n0: 900\r\n1: -9\r\nI: 66\r\nI: 8\r\nL: -50\r\nI: 4\r\n0: 500\r\n");
+  write_file_of("Test",
+                "N: Test\r\nV: 2.7A\r\nI: 0\r\nC: 9\r\n0: 900\r\n1: -9\r\nI: 66\r\nI: 8\r\nL: -50\r\nI: "
+                "4\r\n0: 500\r\n");
   load_program("Test", false);
   EXPECT_EQ(statement_text(0, NAMES_IN_WORDS), "1: if (Error ? Error)");
   EXPECT_EQ(statement_text(1, NAMES_IN_WORDS), "2: ");

@@ -20,7 +20,9 @@ namespace {
   std::exit(2);
 }
 
-bool begins_with(const std::string& text, const std::string& head) { return text.compare(0, head.size(), head) == 0; }
+bool begins_with(const std::string& text, const std::string& head) {
+  return text.compare(0, head.size(), head) == 0;
+}
 
 std::string trimmed(const std::string& text) {
   const std::size_t first = text.find_first_not_of(' ');
@@ -69,7 +71,8 @@ class TStatementLine {
   }
 
   std::string quoted() {
-    if (rest_.size() < 2 || rest_.front() != '"' || rest_.back() != '"') refuse(line_, "a text in quotes is missing");
+    if (rest_.size() < 2 || rest_.front() != '"' || rest_.back() != '"')
+      refuse(line_, "a text in quotes is missing");
     const std::string text = rest_.substr(1, rest_.size() - 2);
     rest_.clear();
     return text;
@@ -170,11 +173,16 @@ bool read_plain(const TStatementLine& reader, ProgramStatement& statement) {
   const struct {
     const char* word;
     int number;
-  } rows[] = {{"else", STATEMENT_ELSE},          {"stop", STATEMENT_STOP},
-              {"break", STATEMENT_BREAK},        {"return call", STATEMENT_RETURN_CALL},
-              {"return sub", STATEMENT_RETURN_SUB}, {"Menu Display", STATEMENT_MENU_DISPLAY},
-              {"Menu Clear", STATEMENT_MENU_CLEAR}, {"end", STATEMENT_END},
-              {"end if", STATEMENT_END},         {"end while", STATEMENT_END}};
+  } rows[] = {{"else", STATEMENT_ELSE},
+              {"stop", STATEMENT_STOP},
+              {"break", STATEMENT_BREAK},
+              {"return call", STATEMENT_RETURN_CALL},
+              {"return sub", STATEMENT_RETURN_SUB},
+              {"Menu Display", STATEMENT_MENU_DISPLAY},
+              {"Menu Clear", STATEMENT_MENU_CLEAR},
+              {"end", STATEMENT_END},
+              {"end if", STATEMENT_END},
+              {"end while", STATEMENT_END}};
   for (const auto& row : rows)
     if (reader.is(row.word)) {
       statement.number = row.number;
@@ -190,16 +198,19 @@ bool read_with_words(TStatementLine& reader, TProgram& to, ProgramStatement& sta
     return true;
   };
   if (is("end loop ", STATEMENT_END)) return true;
-  if (is("if (", STATEMENT_IF) || is("while (", STATEMENT_WHILE)) return read_condition(reader, statement), true;
+  if (is("if (", STATEMENT_IF) || is("while (", STATEMENT_WHILE))
+    return read_condition(reader, statement), true;
   if (is("loop ", STATEMENT_LOOP)) return statement.var0 = short_of(reader.slot(reader.rest())), true;
   if (is("call ", STATEMENT_CALL)) return set_text(statement, reader.rest()), true;
-  if (is("label ", STATEMENT_LABEL) || is("goto label ", STATEMENT_GOTO) || is("gosub label ", STATEMENT_GOSUB))
+  if (is("label ", STATEMENT_LABEL) || is("goto label ", STATEMENT_GOTO) ||
+      is("gosub label ", STATEMENT_GOSUB))
     return read_label(reader, statement, reader.rest()), true;
   if (is("in ", STATEMENT_IN)) return read_in(reader, statement), true;
   if (is("out ", STATEMENT_OUT)) return read_out(reader, statement), true;
   if (is("fout ", STATEMENT_FOUT)) return read_out(reader, statement), true;
   if (is("func(", STATEMENT_FUNC)) return read_arguments(reader, statement), true;
-  if (is("text ", STATEMENT_TEXT) || is("error ", STATEMENT_ERROR)) return set_text(statement, reader.quoted()), true;
+  if (is("text ", STATEMENT_TEXT) || is("error ", STATEMENT_ERROR))
+    return set_text(statement, reader.quoted()), true;
   if (is("Menu ", STATEMENT_MENU_ITEM)) return read_menu(reader, statement), true;
   if (is("Program Description ", STATEMENT_DESCRIPTION))
     return std::snprintf(to.description, sizeof to.description, "%s", reader.quoted().c_str()), true;

@@ -4,9 +4,9 @@
 //   pi*r^(2)->V
 //   out V (p), "area"
 //
-// Each line is a statement, with or without its number in front ("2: "). Expressions stand in text form. Comparisons
-// are written as `if (A > 0)` and `while (Ans <> B)`, an argument list as `func(a,[A])`, a description as
-// `Program Description "text"`; `end` may name what it ends.
+// Each line is a statement, with or without its number in front ("2: "). Expressions stand in text form.
+// Comparisons are written as `if (A > 0)` and `while (Ans <> B)`, an argument list as `func(a,[A])`, a
+// description as `Program Description "text"`; `end` may name what it ends.
 #pragma once
 
 #include <string>

@@ -53,12 +53,13 @@ bool select_program(TDialog& dialog, TProgramChoice& last) {
   TControls controls;
   controls.name = dialog.add(list_control("Program Name:", {}));
   dialog[controls.name].lines = NAME_LINES;
-  controls.type =
-      dialog.add(combo_control("Program Type:", {"Custom Program", "Built-in Program"}, last.built_in ? BUILT_IN_ROW : 0));
+  controls.type = dialog.add(combo_control("Program Type:", {"Custom Program", "Built-in Program"},
+                                           last.built_in ? BUILT_IN_ROW : 0));
   add_ok_cancel(dialog);
   fill_names(dialog, controls, last.name);
   dialog.procedure = [&](TDialog& self, const TDialogEvent& event) {
-    if (event.kind == CONTROL_CHANGED && event.control == controls.type) fill_names(self, controls, last.name);
+    if (event.kind == CONTROL_CHANGED && event.control == controls.type)
+      fill_names(self, controls, last.name);
     if (event.kind == CONTROL_ACTIVATED && event.control == controls.name) accept_dialog(self);
   };
   platform().run_dialog(dialog);
