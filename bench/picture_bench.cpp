@@ -1,5 +1,5 @@
-// From a key press to the finished picture; a whole repaint beside what giflib takes to decode the same images to pixels of
-// 32 bits; one indicator.
+// From a key press to the finished picture; a whole repaint beside what giflib takes to decode the same
+// images to pixels of 32 bits; one indicator.
 
 #include <benchmark/benchmark.h>
 #include <gif_lib.h>
@@ -50,14 +50,27 @@ void whole_repaint(benchmark::State& bench) {
 BENCHMARK(whole_repaint);
 
 // The images of that repaint, in its order.
-constexpr const char* COMP_IMAGES[] = {
-    "BACKGROUND_GIF_0",       "CALCULATOR_GIF_0",         "AC_BUTTON_GIF_0",
-    "SMALL_BUTTON_GIF_0",     "LEFT_ARROW_BUTTON_GIF",    "SMALL_BUTTON_GIF_0",
-    "RIGHT_ARROW_BUTTON_GIF", "STATS_BUTTON_GIF_0",       "SMALL_BUTTON_GIF_0",
-    "RAD_GIF",                "SMALL_BUTTON_GIF_0",       "RUN_BUTTON_GIF",
-    "SMALL_BUTTON_GIF_0",     "ORANGE_SHIFT_BUTTON_GIF_0", "SMALL_BUTTON_GIF_0",
-    "BLUE_SHIFT_BUTTON_GIF_0", "SMALL_BUTTON_GIF_0",      "HYP_BUTTON_GIF",
-    "ENUM_LINE",              "ENUN_COMP",                "ENUN_STATS_DARK"};
+constexpr const char* COMP_IMAGES[] = {"BACKGROUND_GIF_0",
+                                       "CALCULATOR_GIF_0",
+                                       "AC_BUTTON_GIF_0",
+                                       "SMALL_BUTTON_GIF_0",
+                                       "LEFT_ARROW_BUTTON_GIF",
+                                       "SMALL_BUTTON_GIF_0",
+                                       "RIGHT_ARROW_BUTTON_GIF",
+                                       "STATS_BUTTON_GIF_0",
+                                       "SMALL_BUTTON_GIF_0",
+                                       "RAD_GIF",
+                                       "SMALL_BUTTON_GIF_0",
+                                       "RUN_BUTTON_GIF",
+                                       "SMALL_BUTTON_GIF_0",
+                                       "ORANGE_SHIFT_BUTTON_GIF_0",
+                                       "SMALL_BUTTON_GIF_0",
+                                       "BLUE_SHIFT_BUTTON_GIF_0",
+                                       "SMALL_BUTTON_GIF_0",
+                                       "HYP_BUTTON_GIF",
+                                       "ENUM_LINE",
+                                       "ENUN_COMP",
+                                       "ENUN_STATS_DARK"};
 
 struct TBytes {
   const TImageResource& image;
@@ -123,6 +136,11 @@ void indicator(benchmark::State& bench) {
     benchmark::DoNotOptimize(&screen());
   }
 }
-BENCHMARK(indicator)->ArgName("part")->Arg(PART_AC_AND_ARROWS)->Arg(PART_SHIFTS)->Arg(PART_ANGLE)->Arg(PART_RUN);
+BENCHMARK(indicator)
+    ->ArgName("part")
+    ->Arg(PART_AC_AND_ARROWS)
+    ->Arg(PART_SHIFTS)
+    ->Arg(PART_ANGLE)
+    ->Arg(PART_RUN);
 
 }  // namespace

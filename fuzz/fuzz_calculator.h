@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <string>
 
 #include "app/start_up.h"
 #include "engine/calculator.h"
@@ -22,6 +23,7 @@ namespace zephyl {
 class TFuzzPlatform : public TSilentPlatform {
  public:
   bool impatient = false;
+  std::string folder = "/dev/null/data";  // the data folder; at first none
 
   std::uint32_t tick_count() override { return ticks_ += 600; }
   void sleep(std::uint32_t milliseconds) override { ticks_ += milliseconds; }
@@ -30,6 +32,7 @@ class TFuzzPlatform : public TSilentPlatform {
     return impatient && ++looks_ > 1;
   }
   bool peek_cancel() override { return impatient; }
+  const char* data_folder() override { return folder.c_str(); }
 
   void be_impatient(bool on) {
     impatient = on;

@@ -1,5 +1,5 @@
-// Random bytes as GIF pictures, in the plain form and in that of the drawing store; and as pixels, which must come back
-// from the writer as they went in.
+// Random bytes as GIF pictures, in the plain form and in that of the drawing store; and as pixels, which must
+// come back from the writer as they went in.
 
 #include <cstdint>
 #include <cstdio>
@@ -59,8 +59,9 @@ void decode(int options, int x, int y, const std::uint8_t* bytes, std::size_t si
   else if (options & PAIRS)
     check_result(draw_gif_pairs(surface, bytes, size), surface);
   else
-    check_result(draw_gif(surface, bytes, size, x, y, (options & TRANSPARENT) != 0, (options & ADJUSTED) != 0),
-                 surface);
+    check_result(
+        draw_gif(surface, bytes, size, x, y, (options & TRANSPARENT) != 0, (options & ADJUSTED) != 0),
+        surface);
 }
 
 struct TPixels {
@@ -83,7 +84,8 @@ std::vector<std::uint8_t> written(TPixels pixels, int width, int height) {
 void write_and_read_back(int width, int height, const std::uint8_t* bytes, std::size_t size) {
   const std::vector<std::uint8_t> gif = written({bytes, size}, width, height);
   TSurface surface(width, height);
-  must_be(draw_gif(surface, gif.data(), gif.size(), 0, 0, false, false) == GIF_OK, "a written picture was refused");
+  must_be(draw_gif(surface, gif.data(), gif.size(), 0, 0, false, false) == GIF_OK,
+          "a written picture was refused");
   TPixels pixels{bytes, size};
   for (int y = 0; y < height; ++y)
     for (int x = 0; x < width; ++x)

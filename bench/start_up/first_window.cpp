@@ -1,5 +1,6 @@
-// first-window PROGRAM...: starts a program and prints how many milliseconds pass until its first window is mapped on the X
-// display, and after a moment of rest how many kilobytes of memory are its own and how many it has resident. Then ends it.
+// first-window PROGRAM...: starts a program and prints how many milliseconds pass until its first window is
+// mapped on the X display, and after a moment of rest how many kilobytes of memory are its own and how many
+// it has resident. Then ends it.
 
 #include <sys/wait.h>
 #include <unistd.h>

@@ -23,14 +23,17 @@ comp() { printf 'eval 2->angleMode\neval 2+sin(30)*sqRt 2\n'; png "comp_$1"; }
   menu 47 "STATS Mode"; printf 'eval 12.5\nkey 26\neval 17\nkey 26\neval 14.5\nkey 26\nkey 11\nkey 42\n'; png stats
 } | draw
 { sample 47 Function; png plot; } | draw
-{ printf 'enter randMatrix(7,5)\nkey 42\n'; menu 47 "MATRIX Mode"; png matrix; } | draw
+{ printf 'eval randMatrix(7,5)->[A]\n'; menu 47 "MATRIX Mode"; png matrix; } | draw
 
 { skin Dark; comp dark
   printf 'eval 4->baseType\n'; menu 47 "BASE-n Mode"; printf 'eval 255*16+A\n'; png base
 } | draw
 { skin Dark; sample 47 "3D Cartesian"; png plot3d; } | draw
-{ skin Dark; printf 'eval sqRt Seq(A,A,1,20)\n'; menu 47 "LIST Mode"; png list; } | draw
+{ skin Dark; printf 'eval Seq(sqRt A,A,1,20)->{A}\n'; menu 47 "LIST Mode"; png list; } | draw
 
 { skin Light; comp light; menu 47 "Periodic Table"; png periodic; } | draw
 { skin Light; sample 47 Polar; png polar; } | draw
-{ skin Light; printf 'key 0\nkey 24\nchar Hello'; printf '\n'; png text; } | draw
+{ skin Light
+  printf 'key 44\nchoose "Program Type" "Built-in Program"\nchoose #0 "Quadratic Equation"\npress OK\n'; png program
+} | draw
+{ skin Light; printf 'key 1\nkey 24\nchar Hello'; printf '\n'; png text; } | draw

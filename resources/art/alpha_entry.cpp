@@ -70,8 +70,8 @@ void draw_unused_key(TCanvas& canvas, const TBox& box) {
   draw_rounded(canvas, box, 3, UNUSED);
 }
 
-// A character a key from the first on; a key without one, or with a blank, is unused. page: the word on the key that
-// turns the page.
+// A character a key from the first on; a key without one, or with a blank, is unused. page: the word on the
+// key that turns the page.
 TCanvas characters(const std::string& text, const char* page) {
   TCanvas canvas(OVERLAY_WIDTH, OVERLAY_HEIGHT);
   for (int key = 0; key < KEY_SHIFT; ++key) {

@@ -60,7 +60,8 @@ const TMask lamp_on{".###.", "#####", "#####", "#####", ".###."};
 
 TMask cap_label(const char* text, int width) {
   const TTypefaces& faces = typefaces();
-  for (const TCapFace& row : {TCapFace{faces.label, 6}, {faces.narrow, 3}, {faces.legend, 4}, {faces.tiny, 4}}) {
+  for (const TCapFace& row :
+       {TCapFace{faces.label, 6}, {faces.narrow, 3}, {faces.legend, 4}, {faces.tiny, 4}}) {
     const TMask mask = row.face.label(text);
     if (mask.width() <= width - row.side_room) return mask;
   }

@@ -31,8 +31,8 @@ class TTypeface {
   // A line of UTF-8 text, height() high. The combining marks macron and circumflex lie over the letter before
   // them; U+200A is one more column. Throws for a character that is missing.
   TMask text(const std::string& utf8) const;
-  // The same for setting in the middle of a box: the rows from the top of capitals to the baseline are its middle, with
-  // as many rows above them as below, so that the labels of a row of keys stand on one line.
+  // The same for setting in the middle of a box: the rows from the top of capitals to the baseline are its
+  // middle, with as many rows above them as below, so that the labels of a row of keys stand on one line.
   TMask label(const std::string& utf8) const;
   // One character in a mask height() high, without blank columns.
   TMask letter(char32_t character) const;

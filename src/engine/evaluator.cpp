@@ -369,7 +369,10 @@ bool is_evaluating() { return runs_under_way > 0; }
 
 void run_sample(const TCompiled& compiled) {
   registers[0].value = {};
-  run_steps(compiled, true);
+  if (!compiled.all_plain || errors.error_flag) return run_steps(compiled, true);
+  // Plain numbers: no call sites, no loops and no literals to clear.
+  registers[0].type = TYPE_NUMBER;
+  walk_steps(compiled, true);
 }
 
 void run_compiled(const TCompiled& compiled, bool plotting) {

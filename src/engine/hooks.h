@@ -57,8 +57,9 @@ struct THooks {
   const TBitmap* (*bitmap)(const char* name) = [](const char*) -> const TBitmap* { return nullptr; };
   // Draws the image or the coloured box of that name at a place of a surface.
   void (*draw_image)(TSurface& surface, const char* name, int x, int y) = [](TSurface&, const char*, int, int) {};
-  // The plot's picture has changed: it goes to its place on the PLOT screen, at once.
-  void (*show_plot)(const TSurface& plot) = [](const TSurface&) {};
+  // The plot's picture has changed: it goes to its place on the PLOT screen. at_once: not only when the driver comes
+  // round to it, for what is drawn in the midst of a long run.
+  void (*show_plot)(const TSurface& plot, bool at_once) = [](const TSurface&, bool) {};
   // A picture as the bytes of a GIF with 16-bit colours, and drawn from them; what can't be read is told.
   void (*write_picture)(const TSurface& picture, std::vector<std::uint8_t>& bytes) = nullptr;
   void (*read_picture)(TSurface& picture, const std::uint8_t* bytes, std::size_t size) = nullptr;

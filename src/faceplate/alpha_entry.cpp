@@ -180,6 +180,15 @@ int alpha_key_pressed(int key, bool typed) {
   return KEY_DONE;
 }
 
+int alpha_character_of_key(int key) {
+  if (key == KEY_BLANK) return BLANK_INDEX;
+  if (key < 0 || key >= KEY_SHIFT) return -1;
+  if (!alpha_entry.symbol_page)
+    return alpha_entry.shift && key >= FIRST_LETTER_KEY ? key + ALPHA_CAPITALS - FIRST_LETTER_KEY : key;
+  const int index = key + ALPHA_SYMBOLS;
+  return key > LAST_SYMBOL_KEY || (names_a_program() && refused_in_file_names(index)) ? -1 : index;
+}
+
 void append_alpha_character(int index) {
   if (!state.alpha_active || !known(alpha_entry.kind) || index < 0 || index >= ALPHA_CHARACTER_COUNT) return;
   const std::size_t length = std::strlen(alpha_entry.text);

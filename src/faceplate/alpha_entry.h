@@ -50,6 +50,9 @@ void start_alpha_entry(int kind);
 // of a character to append, or a result of key_path.h.
 int alpha_key_pressed(int key, bool typed);
 
+// The index of the character that key 0 to 35 or the blank would append now; -1 if it would append none.
+int alpha_character_of_key(int key);
+
 // Appends a character, if the kind allows it there.
 void append_alpha_character(int index);
 

@@ -31,10 +31,10 @@ void draw_image(TSurface& surface, const char* name, int x, int y) {
     draw_gif_resource(surface, name, x, y, false, false);
 }
 
-void show_plot_picture(const TSurface& plot) {
+void show_plot_picture(const TSurface& plot, bool at_once) {
   if (state.calcMode != PLOT_MODE || state.alpha_active) return;
   screen_surface().blit(PLOT_LEFT, PLOT_TOP, PLOT_WIDTH, PLOT_HEIGHT, plot, 0, 0);
-  platform().present(true);
+  platform().present(at_once);
 }
 
 // The second step of a constant; a name that is in use ends it too.

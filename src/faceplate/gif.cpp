@@ -324,8 +324,8 @@ TGifResult with_message(TGifResult result) {
 
 int brightened(int channel, int shift) { return std::clamp(channel + shift, 0, 255); }
 
-// Half of what the brightness differs from the neutral one. The settings may hold any number: far out every colour is
-// black or white.
+// Half of what the brightness differs from the neutral one. The settings may hold any number: far out every
+// colour is black or white.
 int brightness_shift() { return (std::clamp(settings.brightness, -1024, 1024) - 128) >> 1; }
 
 }  // namespace

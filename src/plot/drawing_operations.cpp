@@ -55,6 +55,8 @@ void initialise(const TScalarCall& call) {
   hooks.plot_changed();
 }
 
+void set_defaults(const TScalarCall&) { set_plot_defaults(); }
+
 // Takes its place in front of the owners of other items.
 void (*clear_other_item)(int item) = nullptr;
 
@@ -78,6 +80,7 @@ void register_drawing() {
   operations[OP_CLR_DRAW].scalar = drawing_command<clear_command>;
   operations[OP_UPDATE_DRAW].scalar = drawing_command<update_command>;
   operations[OP_INIT_DRAW].scalar = drawing_command<initialise>;
+  operations[OP_INIT_PLOT].scalar = drawing_command<set_defaults>;
   register_shape_operations();
   register_drawing_text();
   register_drawing_lists();

@@ -97,7 +97,9 @@ namespace {
 void refresh_plot() {
   if (plot_screen().plotting) return;
   request_plot();
-  if (plots_wait()) plot_it();
+  if (!plots_wait()) return;
+  draw_plot(plot_screen());
+  show_progress();
 }
 
 // Takes its place in front of the owners of other items.

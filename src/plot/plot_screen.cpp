@@ -16,6 +16,14 @@ constexpr int QUICK_SAMPLES = 64;              // between two looks at the clock
 std::uint32_t last_growth = 0;
 int samples_to_look = 0;
 
+// True when it is time to show again what is being drawn.
+bool growth_is_due() {
+  const std::uint32_t now = platform().tick_count();
+  if (now - last_growth < GROWTH_INTERVAL) return false;
+  last_growth = now;
+  return true;
+}
+
 void copy_picture(TSurface& to, const TSurface& from) { to.blit(0, 0, PLOT_WIDTH, PLOT_HEIGHT, from, 0, 0); }
 
 }  // namespace
@@ -33,12 +41,12 @@ TSurface& begin_marks() {
 
 void show_marks() {
   plot_screen().marks_shown = true;
-  hooks.show_plot(plot_screen().marks);
+  hooks.show_plot(plot_screen().marks, false);
 }
 
 void show_plot() {
   plot_screen().marks_shown = false;
-  hooks.show_plot(plot_screen().plot);
+  hooks.show_plot(plot_screen().plot, false);
 }
 
 void begin_growth() {
@@ -49,11 +57,10 @@ void begin_growth() {
 void grow(bool quick) {
   if (quick && --samples_to_look > 0) return;
   samples_to_look = QUICK_SAMPLES;
-  const std::uint32_t now = platform().tick_count();
-  if (now - last_growth < GROWTH_INTERVAL) return;
-  last_growth = now;
-  show_plot();
+  if (growth_is_due()) hooks.show_plot(plot_screen().plot, true);
 }
+
+void show_progress() { hooks.show_plot(plot_screen().plot, growth_is_due()); }
 
 void reset_plot_screen() {
   TPlotScreen& screen = plot_screen();

@@ -26,6 +26,8 @@ void begin_growth();
 // To be called for every sample: shows the plot 20 times a second. quick: samples that take less than a
 // microsecond, for which the clock is read now and then only.
 void grow(bool quick);
+// Shows the plot, at once if it is time.
+void show_progress();
 
 void reset_plot_screen();
 

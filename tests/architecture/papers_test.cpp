@@ -62,7 +62,11 @@ std::vector<std::string> named_files(const std::string& text) {
   return names;
 }
 
+// Files that the calculator makes in its data folder.
+const std::set<std::string> DATA_FILES = {"startup.txt"};
+
 bool exists(const std::string& name, const fs::path& paper, const std::set<std::string>& files) {
+  if (DATA_FILES.count(name)) return true;
   if (fs::exists(ROOT / name) || fs::exists(paper.parent_path() / name)) return true;
   for (const std::string& file : files)
     if (ends_with(file, "/" + name)) return true;

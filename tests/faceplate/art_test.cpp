@@ -191,8 +191,9 @@ TEST_F(art, has_the_glyphs_of_stated_widths) {
 }
 
 TEST_F(art, has_small_characters_of_one_height) {
-  for (const char* name : {"START_PAREN", "END_PAREN", "PLUSS", "COMMA", "MINUS", "DP", "EQUAL", "E", "E_TO_X", "IMAG", "0",
-                           "1", "2", "3", "4", "5", "6", "7", "8", "9"}) {
+  for (const char* name :
+       {"START_PAREN", "END_PAREN", "PLUSS", "COMMA", "MINUS", "DP", "EQUAL", "E", "E_TO_X", "IMAG",
+        "0",           "1",         "2",     "3",     "4",     "5",  "6",     "7", "8",      "9"}) {
     const TBitmap* glyph = find_glyph((std::string("SMALL_") + name).c_str());
     ASSERT_NE(glyph, nullptr) << name;
     EXPECT_EQ(glyph->height, find_glyph("SMALL_0")->height) << name;
@@ -346,10 +347,12 @@ TKeyTable with_shadows(const TKeyTable& table, std::vector<KeyRect>& rows) {
 
 TEST_F(art, prints_the_fronts_of_plots_and_tables_on_their_keys) {
   std::vector<KeyRect> plain_rows, surface_rows, table_rows;
-  const TKeyTable plain = with_shadows(plot_keys, plain_rows), surface = with_shadows(plot_keys_3d, surface_rows),
+  const TKeyTable plain = with_shadows(plot_keys, plain_rows),
+                  surface = with_shadows(plot_keys_3d, surface_rows),
                   table = with_shadows(list_matrix_keys, table_rows);
   for (int skin = 0; skin < 3; ++skin) {
-    EXPECT_EQ(stray_pixels(in_skin("PLOT_CALCULATOR_FUNCTION_GIF", skin), {plain, {{1, 11}, {20, 23}}, 0}), 0);
+    EXPECT_EQ(stray_pixels(in_skin("PLOT_CALCULATOR_FUNCTION_GIF", skin), {plain, {{1, 11}, {20, 23}}, 0}),
+              0);
     EXPECT_EQ(stray_pixels(in_skin("PLOT_CALCULATOR_3D_GIF", skin), {surface, {{1, 11}, {18, 23}}, 0}), 0);
     EXPECT_EQ(stray_pixels(in_skin("LIST_GIF", skin), {table, {{6, 10}, {13, 14}, {17, 18}}, 0}), 0);
     EXPECT_EQ(stray_pixels(in_skin("MATRIX_GIF", skin), {table, {{6, 18}}, 0}), 0);
@@ -385,7 +388,8 @@ TEST_F(art, prints_something_on_every_key) {
   for (const auto& front : fronts) {
     const TSurface surface = printed_alone(front.name);
     for (int key = 0; key <= 42; ++key) {
-      const bool indicator = std::find(front.indicators.begin(), front.indicators.end(), key) != front.indicators.end();
+      const bool indicator =
+          std::find(front.indicators.begin(), front.indicators.end(), key) != front.indicators.end();
       EXPECT_EQ(has_print(surface, calculator_keys.rows[key]), !indicator) << front.name << " key " << key;
     }
   }

@@ -324,6 +324,12 @@ TEST_F(keys_plot, the_height_of_a_surface_is_doubled_and_halved) {
   plot_variables.zScale = 1.1e100;
   tap_key(18);
   EXPECT_EQ(plot_variables.zScale, 1.1e100);
+  plot_variables.zScale = 1e100;
+  on_pen_down(110, 278);
+  EXPECT_EQ(plot_variables.zScale, 2e100);
+  on_pen_up(110, 278);
+  paint();
+  EXPECT_EQ(plot_variables.zScale, 1e100);  // as far as a plot goes
 }
 
 TEST_F(keys_plot, the_dead_pixel_is_reported_and_does_nothing) {

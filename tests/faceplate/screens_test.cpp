@@ -165,8 +165,7 @@ TEST_F(indicators, each_repaints_by_itself_as_the_whole_screen_would) {
     expect_redraw(PART_HYP, [] { state.hyp_shift = !state.hyp_shift; });
     expect_redraw(PART_SHIFTS, [] { state.orange_shift = !state.orange_shift; });
     expect_redraw(PART_ANGLE, [] { settings.angleMode = (settings.angleMode + 1) % 3; });
-    run.key_run = true;
-    expect_redraw(PART_RUN, [] { state.program_running = !state.program_running; });
+    expect_redraw(PART_RUN, [] { state.program_running = run.key_run = !state.program_running; });
     state.calcMode = STATS_MODE;
     expect_redraw(PART_STATS_VAR, [] { settings.statsVar = 1 - settings.statsVar; });
     expect_redraw(PART_REGRESSION, [] { settings.statsRegress = (settings.statsRegress + 1) % 4; });

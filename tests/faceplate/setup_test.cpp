@@ -1,4 +1,5 @@
-// The dialogs behind the Setup tab: the settings, the colour and skin, and what they leave when they are cancelled.
+// The dialogs behind the Setup tab: the settings, the colour and skin, and what they leave when they are
+// cancelled.
 
 #include "faceplate/dialogs/setup.h"
 
@@ -35,7 +36,9 @@ void check(TDialog& dialog, const std::string& control, bool on = true) {
 void slide(TDialog& dialog, const std::string& slider, int value) {
   EXPECT_TRUE(set_value(dialog, find_control(dialog, slider), value)) << slider;
 }
-const TControl& control(const TDialog& dialog, const std::string& name) { return dialog[find_control(dialog, name)]; }
+const TControl& control(const TDialog& dialog, const std::string& name) {
+  return dialog[find_control(dialog, name)];
+}
 
 int plots_asked_for = 0;
 
@@ -133,7 +136,8 @@ TEST_F(setup, stays_shut_in_the_error_state_and_while_a_program_runs) {
 }
 
 TEST_F(setup, opens_from_every_screen_with_tabs) {
-  for (const int mode : {BASE_MODE, COMP_MODE, STATS_MODE, PROGRAM_EDIT_MODE, PLOT_MODE, MATRIX_MODE, LIST_MODE}) {
+  for (const int mode :
+       {BASE_MODE, COMP_MODE, STATS_MODE, PROGRAM_EDIT_MODE, PLOT_MODE, MATRIX_MODE, LIST_MODE}) {
     state.calcMode = mode;
     platform_.dialogs.clear();
     press_tab(TAB_SETUP);
@@ -191,7 +195,8 @@ TEST_F(setup, a_new_constant_is_named_and_given_a_unit) {
 }
 
 TEST_F(setup, a_name_in_use_is_told_and_ends_the_entry) {
-  open({[](TDialog& dialog) { press(dialog, "Edit Constants"); }, [](TDialog& dialog) { press(dialog, "OK"); }});
+  open({[](TDialog& dialog) { press(dialog, "Edit Constants"); },
+        [](TDialog& dialog) { press(dialog, "OK"); }});
   alpha_entry.text[0] = 0;
   type(std::string(constant_name(0)) + "\r\r");
   EXPECT_EQ(message(), "Error | Constant name in use");
@@ -323,7 +328,7 @@ TEST_F(colour_and_skin, opens_on_the_first_row_for_a_skin_out_of_range) {
 }
 
 std::vector<TColour> sample_of(const TDialog& dialog) {
-  const TSurface& picture = control(dialog, "Sample Text").picture.at(0);
+  const TSurface& picture = control(dialog, "Text Background").picture.at(0);
   return {picture.pixels(), picture.pixels() + picture.width() * picture.height()};
 }
 

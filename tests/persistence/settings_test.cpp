@@ -1,4 +1,5 @@
-// The settings between two runs: what is written, what is read back, and what becomes of a file that isn't as it was written.
+// The settings between two runs: what is written, what is read back, and what becomes of a file that isn't as
+// it was written.
 
 #include "persistence/settings.h"
 
@@ -77,12 +78,21 @@ struct TWordRow {
 
 const std::vector<TWordRow>& word_rows() {
   static const std::vector<TWordRow> rows = {
-      {"format", &settings.numberFormat, {{"NORM", 0}, {"FIX", 1}, {"SCIENTIFIC", 2}, {"ENGINEERING", 3}}, 0, 0},
+      {"format",
+       &settings.numberFormat,
+       {{"NORM", 0}, {"FIX", 1}, {"SCIENTIFIC", 2}, {"ENGINEERING", 3}},
+       0,
+       0},
       {"point_and_seperator", &settings.decimalMark, {{"DECIMAL_POINT", 0}, {"COMMA_POINT", 1}}, 0, 0},
       {"angle_unit", &settings.angleMode, {{"RADIAN", 0}, {"DEGREE", 1}, {"GRADIAN", 2}}, 1, 0},
       {"display_mode",
        &state.calcMode,
-       {{"BASE_MODE", 0}, {"COMP_MODE", 1}, {"STATS_MODE", 2}, {"PLOT_MODE", 5}, {"MATRIX_MODE", 6}, {"LIST_MODE", 7}},
+       {{"BASE_MODE", 0},
+        {"COMP_MODE", 1},
+        {"STATS_MODE", 2},
+        {"PLOT_MODE", 5},
+        {"MATRIX_MODE", 6},
+        {"LIST_MODE", 7}},
        1,
        1},
       {"base_bits", &settings.baseBits, {{"BITS_8", 0}, {"BITS_16", 1}, {"BITS_32", 2}}, 1, 1},
@@ -99,7 +109,11 @@ const std::vector<TWordRow>& word_rows() {
        {{"BASE_MODE", 0}, {"STATS_MODE", 2}, {"MATRIX_MODE", 6}, {"LIST_MODE", 7}},
        2,
        2},
-      {"scaler_type", &settings.complexFormat, {{"ST_REAL", 0}, {"ST_COMPLEX_R", 1}, {"ST_COMPLEX_P", 2}}, 0, 0},
+      {"scaler_type",
+       &settings.complexFormat,
+       {{"ST_REAL", 0}, {"ST_COMPLEX_R", 1}, {"ST_COMPLEX_P", 2}},
+       0,
+       0},
   };
   return rows;
 }
@@ -170,7 +184,8 @@ TEST_F(settings_file, takes_any_colour_brightness_and_skin) {
 }
 
 TEST_F(settings_file, keeps_the_values_of_the_money_solver_to_the_last_bit) {
-  const double values[] = {360.0, 6.007, -200000.0 / 3.0, 1e-300, std::numeric_limits<double>::max(), 1.0 / 3.0, 4.0};
+  const double values[] = {360.0,     6.007, -200000.0 / 3.0, 1e-300, std::numeric_limits<double>::max(),
+                           1.0 / 3.0, 4.0};
   for (int i = TVM_N; i <= TVM_CY; ++i) set_tvm_value(i, values[i]);
   set_tvm_value(TVM_PMT_AT, 1.0);
   save_settings();

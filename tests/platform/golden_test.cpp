@@ -23,13 +23,13 @@ TEST(golden, tells_how_many_pixels_differ_and_where) {
   TSurface surface = check_picture();
   surface.set_pixel(2, 1, WHITE);
   surface.set_pixel(3, 2, WHITE);
-  EXPECT_NONFATAL_FAILURE(expect_picture("golden_check", surface),
-                          "2 pixels differ, within 2, 1 to 3, 2");
+  EXPECT_NONFATAL_FAILURE(expect_picture("golden_check", surface), "2 pixels differ, within 2, 1 to 3, 2");
   forget_painted_picture("golden_check");
 }
 
 TEST(golden, tells_of_another_size) {
-  EXPECT_NONFATAL_FAILURE(expect_picture("golden_check", TSurface(5, 3)), "it is 5 by 3, the golden one 4 by 3");
+  EXPECT_NONFATAL_FAILURE(expect_picture("golden_check", TSurface(5, 3)),
+                          "it is 5 by 3, the golden one 4 by 3");
   forget_painted_picture("golden_check");
 }
 

@@ -231,6 +231,19 @@ TEST_F(drawing_layer, initialising_changes_nothing_where_a_switch_is_neither_0_n
   EXPECT_EQ(state.calcMode, COMP_MODE);
 }
 
+TEST_F(drawing_layer, the_defaults_of_plots_leave_the_drawing_and_the_mode) {
+  eval("fillCirc(0,0,5)");
+  eval("3->plotType");
+  eval("0->xMin");
+  eval("2->angleMode");
+  EXPECT_EQ(eval("initPlot()"), "0");
+  EXPECT_EQ(plot_variables.plotType, PLOT_FUNCTION);
+  EXPECT_EQ(plot_variables.xMin, -10);
+  EXPECT_EQ(plot_variables.t.max, 360);
+  EXPECT_TRUE(drawing_present());
+  EXPECT_EQ(state.calcMode, COMP_MODE);
+}
+
 TEST_F(drawing_layer, counts_and_types_of_arguments_are_those_of_any_function) {
   EXPECT_EQ(error_of("Line(1,2,3)"), "Function Argument Count");
   EXPECT_EQ(error_of("Color(1,2)"), "Function Argument Count");

@@ -20,7 +20,7 @@ class plot_screen_drawing : public plotting {
  protected:
   plot_screen_drawing() {
     shown() = 0;
-    hooks.show_plot = [](const TSurface&) { ++shown(); };
+    hooks.show_plot = [](const TSurface&, bool) { ++shown(); };
   }
   // How often the picture went to the screen.
   static int& shown() {

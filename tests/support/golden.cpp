@@ -80,7 +80,8 @@ std::string compare(const std::string& name, const TSurface& actual) {
 
 void forget_painted_picture(const std::string& name) {
   std::error_code ignored;
-  for (const std::string& path : {actual_path(name), marked_path(name)}) std::filesystem::remove(path, ignored);
+  for (const std::string& path : {actual_path(name), marked_path(name)})
+    std::filesystem::remove(path, ignored);
 }
 
 void expect_picture(const std::string& name, const TSurface& surface) {

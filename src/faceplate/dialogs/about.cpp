@@ -16,7 +16,7 @@ constexpr const char* INVITATION =
 void show_about() {
   TDialog dialog(160, "About");
   dialog.add(label_control(std::string("Zephyl v") + VERSION_TEXT));
-  dialog.add(text_control("", INVITATION, 2));
+  dialog.add(text_control("", INVITATION, 3));
   dialog.add(button_control("OK", BUTTON_DEFAULT));
   platform().run_dialog(dialog);
 }

@@ -49,8 +49,7 @@ TColourDialog::TColourDialog() {
   const TDisplayLook& look = pending_display;
   const bool known = look.skin >= 0 && look.skin < static_cast<int>(SKIN_NAMES.size());
   skin = dialog.add(combo_control("Skin:", SKIN_NAMES, known ? look.skin : 0));
-  dialog.add(label_control("Text Background"));
-  sample = dialog.add(picture_control(SAMPLE_TEXT, colour_sample(look.colour)));
+  sample = dialog.add(picture_control("Text Background", colour_sample(look.colour)));
   red = add_slider("Red:", red_part(look.colour));
   green = add_slider("Green:", green_part(look.colour));
   blue = add_slider("Blue:", blue_part(look.colour));

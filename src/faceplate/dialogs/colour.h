@@ -1,5 +1,5 @@
-// Dialog 194, "Select Color and Skin". It works on the look that is pending while the Setup dialog is open; the face
-// changes when Setup ends with OK.
+// Dialog 194, "Select Color and Skin". It works on the look that is pending while the Setup dialog is open;
+// the face changes when Setup ends with OK.
 #pragma once
 
 #include "platform/surface.h"

@@ -42,7 +42,7 @@ class TSetup {
 
  private:
   void add_formats();
-  void add_button(const char* label, void (*act)(TDialog& dialog), bool beside);
+  void add_button(const char* label, void (*act)(TDialog& dialog));
   void press(int control);
 
   TDialog dialog_{103, "Setup Options"};
@@ -61,16 +61,16 @@ TSetup::TSetup() {
   add_formats();
   digits_ = dialog_.add(combo_control("Decimal Digits:", digit_rows(), settings.decimalDigits));
   mark_ = dialog_.add(combo_control("Decimal Mark:", {"Dot(.)", "Comma(,)"}, settings.decimalMark));
-  complex_ = dialog_.add(combo_control("Complex Format:",
-                                       {"Real only", "a+bi (rectangular)", "re^((theta)i) (polar)"},
-                                       settings.complexFormat));
+  complex_ = dialog_.add(
+      combo_control("Complex Format:", {"Real only", "a+bi (rectangular)", "re^((theta)i) (polar)"},
+                    settings.complexFormat));
   click_ = dialog_.add(check_control("Key Click?", settings.keyClick != 0));
-  add_button("Display Color/Skin", [](TDialog&) { select_colour_and_skin(); }, false);
-  add_button("Edit Constants", close_for_constants, true);
-  add_button("Save State", [](TDialog&) { save_state_pressed(); }, false);
-  add_button("Load State", close_if_loaded, true);
-  add_button("Help", [](TDialog&) { platform().show_help(); }, false);
-  add_button("About", [](TDialog&) { show_about(); }, true);
+  add_button("Display Color/Skin", [](TDialog&) { select_colour_and_skin(); });
+  add_button("Edit Constants", close_for_constants);
+  add_button("Save State", [](TDialog&) { save_state_pressed(); });
+  add_button("Load State", close_if_loaded);
+  add_button("Help", [](TDialog&) { platform().show_help(); });
+  add_button("About", [](TDialog&) { show_about(); });
   add_ok_cancel(dialog_);
   dialog_.procedure = [this](TDialog&, const TDialogEvent& event) {
     if (event.kind == CONTROL_ACTIVATED) press(event.control);
@@ -79,17 +79,12 @@ TSetup::TSetup() {
 
 void TSetup::add_formats() {
   first_format_ = dialog_.count();
-  for (int format = 0; format < FORMAT_COUNT; ++format) {
-    TControl radio = radio_control(FORMAT_NAMES[format], 0, settings.numberFormat == format);
-    radio.beside = format > 0;
-    dialog_.add(std::move(radio));
-  }
+  for (int format = 0; format < FORMAT_COUNT; ++format)
+    dialog_.add(radio_control(FORMAT_NAMES[format], 0, settings.numberFormat == format));
 }
 
-void TSetup::add_button(const char* label, void (*act)(TDialog& dialog), bool beside) {
-  TControl button = button_control(label);
-  button.beside = beside;
-  const int control = dialog_.add(std::move(button));
+void TSetup::add_button(const char* label, void (*act)(TDialog& dialog)) {
+  const int control = dialog_.add(button_control(label));
   acts_.resize(static_cast<std::size_t>(control) + 1, nullptr);
   acts_.back() = act;
 }

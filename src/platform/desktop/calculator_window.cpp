@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "platform/desktop/accessible/calculator_accessible.h"
+#include "platform/desktop/accessible/shown_keys.h"
 #include "platform/desktop/key_events.h"
 #include "platform/desktop/zoom.h"
 #include "platform/events.h"
@@ -22,6 +24,21 @@ namespace zephyl {
 namespace {
 
 constexpr QRgb OPAQUE = 0xff000000u;
+constexpr QRgb RING_COLOUR = 0xffffb000u;
+constexpr QRgb RING_EDGE = 0xff101418u;
+
+struct TDirection {
+  int key;
+  int dx, dy;
+};
+constexpr TDirection DIRECTIONS[] = {
+    {Qt::Key_Left, -1, 0}, {Qt::Key_Right, 1, 0}, {Qt::Key_Up, 0, -1}, {Qt::Key_Down, 0, 1}};
+
+bool presses_ringed_key(const QKeyEvent& event) {
+  const Qt::KeyboardModifiers others = event.modifiers() & ~Qt::KeypadModifier;
+  const int key = event.key();
+  return !others && (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter);
+}
 
 // A row of the picture, each pixel `zoom` times, the last one up to the end.
 void enlarge_row(const TColour* from, QRgb* to, int width, int zoom) {
@@ -38,6 +55,7 @@ TCalculatorWindow::TCalculatorWindow(std::function<void(const TInput&)> take, st
                            Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint),
       take_(std::move(take)),
       close_(std::move(close)) {
+  offer_calculator_to_screen_readers();
   // The picture covers all of the window.
   setAttribute(Qt::WA_OpaquePaintEvent);
   setAttribute(Qt::WA_NoSystemBackground);
@@ -86,6 +104,26 @@ void TCalculatorWindow::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.scale(1.0 / scale, 1.0 / scale);
   painter.drawImage(0, 0, image);
+  if (ring_.shows()) paint_ring(painter);
+}
+
+// A bright line with dark edges, which shows on caps of any skin. In device pixels.
+void TCalculatorWindow::paint_ring(QPainter& painter) const {
+  const TRect key = rect_of_key(ring_.key());
+  const int line = zoom_ + 1;
+  const QRect around(key.left * zoom_, key.top * zoom_, key.width() * zoom_, key.height() * zoom_);
+  painter.setRenderHint(QPainter::Antialiasing);
+  for (const auto& [colour, width] : {std::pair(RING_EDGE, line + 2), std::pair(RING_COLOUR, line)}) {
+    painter.setPen(QPen(QColor::fromRgba(colour), width));
+    painter.drawRoundedRect(around.adjusted(-1, -1, 1, 1), 3 * zoom_, 3 * zoom_);
+  }
+}
+
+QRect TCalculatorWindow::place_on_screen(const TRect& picture_rect) const {
+  const double unit = zoom_ / devicePixelRatioF();
+  const QRectF rect(picture_rect.left * unit, picture_rect.top * unit, picture_rect.width() * unit,
+                    picture_rect.height() * unit);
+  return rect.toAlignedRect().translated(mapToGlobal(QPoint(0, 0)));
 }
 
 TPoint TCalculatorWindow::point_of(const QMouseEvent& event) const {
@@ -95,8 +133,13 @@ TPoint TCalculatorWindow::point_of(const QMouseEvent& event) const {
 // The second press of a double click is a press like any other: the faceplate knows no double clicks.
 void TCalculatorWindow::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
+  hide_ring();
+  put_pen_down(point_of(*event));
+}
+
+void TCalculatorWindow::put_pen_down(TPoint at) {
   pen_is_down_ = true;
-  pen_ = point_of(*event);
+  pen_ = at;
   take_({INPUT_PEN_DOWN, pen_});
 }
 
@@ -128,11 +171,68 @@ void TCalculatorWindow::changeEvent(QEvent* event) {
 
 void TCalculatorWindow::keyPressEvent(QKeyEvent* event) {
   TInput input;
-  if (zoom_by_key(*event)) return;
-  if (input_of_key(*event, input)) return take_(input);
+  if (zoom_by_key(*event) || works_ring(*event)) return;
+  if (input_of_key(*event, input)) {
+    if (input.kind == INPUT_ARROW) hide_ring();
+    return take_(input);
+  }
   const QString characters = characters_of_key(*event);
   if (characters.isEmpty()) return QWidget::keyPressEvent(event);
+  hide_ring();
   take_characters(characters);
+}
+
+void TCalculatorWindow::keyReleaseEvent(QKeyEvent* event) {
+  if (presses_ringed_key(*event) && !event->isAutoRepeat()) lift_pen();
+}
+
+// A key that is held is pressed once.
+bool TCalculatorWindow::works_ring(const QKeyEvent& event) {
+  if (event.modifiers() == Qt::NoModifier && event.key() == Qt::Key_Escape && ring_.shows()) {
+    hide_ring();
+    return true;
+  }
+  for (const TDirection& direction : DIRECTIONS) {
+    const bool controlled = (event.modifiers() & ~Qt::KeypadModifier) == Qt::ControlModifier;
+    if (!controlled || event.key() != direction.key) continue;
+    ring_.move(direction.dx, direction.dy);
+    ring_has_moved();
+    return true;
+  }
+  TPoint at;
+  if (!presses_ringed_key(event) || !ring_.shows() || !point_of_key(ring_.key(), at)) return false;
+  if (!event.isAutoRepeat() && !pen_is_down_) put_pen_down(at);
+  return true;
+}
+
+// The window has no other widgets: what Tab goes through are the keys.
+bool TCalculatorWindow::focusNextPrevChild(bool next) {
+  ring_.step(next);
+  ring_has_moved();
+  return true;
+}
+
+void TCalculatorWindow::show_ring(int key) {
+  ring_.go_to(key);
+  ring_has_moved();
+}
+
+void TCalculatorWindow::hide_ring() {
+  if (!ring_.shows()) return;
+  ring_.hide();
+  ring_has_moved();
+}
+
+void TCalculatorWindow::ring_has_moved() {
+  update();
+  if (ring_moved_) ring_moved_();
+}
+
+void TCalculatorWindow::press_key(int key) {
+  TPoint at;
+  if (pen_is_down_ || !point_of_key(key, at)) return;
+  put_pen_down(at);
+  lift_pen();
 }
 
 bool TCalculatorWindow::zoom_by_key(const QKeyEvent& event) {

@@ -1,11 +1,13 @@
 // The window: shows the picture and puts what the user does with pointer and keyboard into the input queue.
-// It knows nothing of the calculator but the finished picture.
+// It knows nothing of the calculator but the finished picture, and the keys on it, which the keyboard reaches
+// by a ring.
 #pragma once
 
 #include <QImage>
 #include <QWidget>
 #include <functional>
 
+#include "platform/desktop/accessible/key_ring.h"
 #include "platform/desktop/input_queue.h"
 
 namespace zephyl {
@@ -23,6 +25,18 @@ class TCalculatorWindow : public QWidget {
   // The one in use.
   int zoom() const { return zoom_; }
 
+  // A tap on a key of the screen that shows, by its number.
+  void press_key(int key);
+  // The ring that the keyboard moves from key to key: Tab, Shift+Tab, Ctrl with an arrow. Space and Enter
+  // press its key; whoever types or takes the pen needs it no more. ring_key: -1 while it doesn't show.
+  void show_ring(int key);
+  int ring_key() const { return ring_.key(); }
+  // Called when the ring has moved, or has gone.
+  void when_ring_moves(std::function<void()> act) { ring_moved_ = std::move(act); }
+
+  // Where a part of the picture is, in the desktop's units.
+  QRect place_on_screen(const TRect& picture_rect) const;
+
   // What stands on the screen, in device pixels: the picture, each pixel a square of zoom() by zoom(), its
   // last column and row going on to the edge where the window can't be that small.
   QImage enlarged_picture(QSize device_size) const;
@@ -34,6 +48,8 @@ class TCalculatorWindow : public QWidget {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
@@ -42,7 +58,12 @@ class TCalculatorWindow : public QWidget {
   void fit_to_zoom();
   bool zoom_by_key(const QKeyEvent& event);
   void take_characters(const QString& characters);
+  void put_pen_down(TPoint at);
   void lift_pen();
+  bool works_ring(const QKeyEvent& event);
+  void hide_ring();
+  void ring_has_moved();
+  void paint_ring(QPainter& painter) const;
   TPoint point_of(const QMouseEvent& event) const;
 
   std::function<void(const TInput&)> take_;
@@ -52,6 +73,8 @@ class TCalculatorWindow : public QWidget {
   double fitted_scale_ = 0.0;  // the scale factor that the size was made for
   bool pen_is_down_ = false;
   TPoint pen_;
+  TKeyRing ring_;
+  std::function<void()> ring_moved_;
 };
 
 }  // namespace zephyl

@@ -53,9 +53,11 @@ class TDesktopPlatform::TBoxOpen {
 TDesktopPlatform::TDesktopPlatform(std::string folder)
     : folder_(std::move(folder)),
       window_([this](const TInput& input) { take(input); }, [this] { return close_wished(); }),
+      announcer_(window_),
       click_(folder_ + "/click.wav") {
   // Qt takes on the user's locale. Numbers of the calculator are written with a point, whatever that says.
   std::setlocale(LC_NUMERIC, "C");
+  window_.when_ring_moves([this] { announcer_.focus_moved(); });
   timer_.setSingleShot(true);
   QObject::connect(&timer_, &QTimer::timeout, [this] { round(); });
 }
@@ -100,6 +102,19 @@ bool TDesktopPlatform::close_wished() {
 
 void TDesktopPlatform::wake() { timer_.start(0); }
 
+// What goes on by itself, round by round, until an event or a picture waits or the window wants to be looked after. A
+// program has many rounds in that time.
+bool TDesktopPlatform::work() {
+  constexpr std::uint32_t PATIENCE = 8;  // milliseconds
+  constexpr int ROUNDS_A_LOOK = 8;       // between two looks at the clock
+  const std::uint32_t begin = tick_count();
+  for (int rounds = 1; on_idle(); ++rounds) {
+    if (stopped_ || paint_requested_ || !queue_.empty()) return true;
+    if (rounds % ROUNDS_A_LOOK == 0 && tick_count() - begin >= PATIENCE) return true;
+  }
+  return false;
+}
+
 // One round of the main loop. Boxes and the poll run event loops of their own inside of it; the timer fires
 // there too, and does nothing but show the picture behind a box.
 void TDesktopPlatform::round() {
@@ -109,8 +124,9 @@ void TDesktopPlatform::round() {
   TInput input;
   while (!stopped_ && queue_.pop(input)) dispatch(input);
   if (!stopped_) compose();
-  const bool more = !stopped_ && on_idle();
+  const bool more = !stopped_ && work();
   working_ = false;
+  if (!stopped_) announcer_.look();
   if (more || paint_requested_ || !queue_.empty()) wake();
 }
 

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <string>
 
+#include "platform/desktop/accessible/announcer.h"
 #include "platform/desktop/calculator_window.h"
 #include "platform/desktop/click_sound.h"
 #include "platform/desktop/input_queue.h"
@@ -27,6 +28,7 @@ class TDesktopPlatform : public TPlatform {
   void stop();
   bool stopped() const { return stopped_; }
   TCalculatorWindow& window() { return window_; }
+  TAnnouncer& announcer() { return announcer_; }
 
   std::uint32_t tick_count() override;
   TLocalTime local_time() override;
@@ -51,6 +53,7 @@ class TDesktopPlatform : public TPlatform {
   void take(const TInput& input);
   bool close_wished();
   void wake();
+  bool work();
   void round();
   void dispatch(const TInput& input);
   void compose();
@@ -61,6 +64,7 @@ class TDesktopPlatform : public TPlatform {
   std::string folder_;
   TInputQueue queue_;
   TCalculatorWindow window_;
+  TAnnouncer announcer_;
   QTimer timer_;
   TClickSound click_;
   bool paint_requested_ = true;

@@ -186,7 +186,8 @@ void TLayouter::lay_line(const TLine& line, bool stacked_buttons) {
   if (is_tall(control(line[0])) && others_are_buttons) return lay_tall(line);
   if (line.size() == 1 && control(line[0]).kind == CONTROL_BUTTON)
     return lay_button(line[0], stacked_buttons);
-  if (line.size() <= MOST_ALIGNED) return lay_pieces(line);
+  const bool all_buttons = others_are_buttons && control(line[0]).kind == CONTROL_BUTTON;
+  if (line.size() <= MOST_ALIGNED && !all_buttons) return lay_pieces(line);
   grid_->addLayout(pack_line(line), row_++, 0, 1, columns_);
 }
 

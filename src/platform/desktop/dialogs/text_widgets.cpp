@@ -21,6 +21,7 @@ constexpr int WIDEST_LINE = 56;  // longer words are wrapped
 constexpr int USUAL_FIELD = 22;
 constexpr int WIDEST_FIELD = 40;
 constexpr int TALL_FIELD = 44;
+constexpr int MOST_LINES = 16;
 // Pixels without which the last line counts as hidden.
 constexpr int BELOW_LAST_LINE = 4;
 
@@ -92,6 +93,15 @@ class TTextArea : public QPlainTextEdit {
   QSize sizeHint() const override { return size_of(lines_); }
   QSize minimumSizeHint() const override { return size_of(std::min(lines_, 3)); }
 
+  // A text that only is read shows as a whole when it opens, up to a length.
+  void make_room_for(const QString& text) {
+    const QRect widest(0, 0, size_of(1).width() - 2 * characters_wide(*this, 1), QWIDGETSIZE_MAX);
+    const int height = fontMetrics().boundingRect(widest, Qt::TextWordWrap, text).height();
+    const int needed = (height + fontMetrics().lineSpacing() - 1) / fontMetrics().lineSpacing();
+    lines_ = std::max(lines_, std::min(needed, MOST_LINES));
+    updateGeometry();
+  }
+
   void replace_text(const QString& text) {
     const int position = std::min(textCursor().position(), static_cast<int>(text.size()));
     setPlainText(text);
@@ -125,7 +135,9 @@ class TAreaWidget : public TControlWidget {
  protected:
   void show(const TControl& control, const QString&) override {
     const QString text = QString::fromStdString(control.text);
-    if (area_->toPlainText() != text) area_->replace_text(text);
+    if (area_->toPlainText() == text) return;
+    if (area_->isReadOnly() && area_->document()->isEmpty()) area_->make_room_for(text);
+    area_->replace_text(text);
   }
 
  private:
