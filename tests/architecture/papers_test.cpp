@@ -63,7 +63,7 @@ std::vector<std::string> named_files(const std::string& text) {
 }
 
 // Files that the calculator makes in its data folder.
-const std::set<std::string> DATA_FILES = {"startup.txt"};
+const std::set<std::string> DATA_FILES = {"startup.txt", "programs/NAME.txt"};
 
 bool exists(const std::string& name, const fs::path& paper, const std::set<std::string>& files) {
   if (DATA_FILES.count(name)) return true;
