@@ -51,7 +51,8 @@ TEST_F(plot_dialogs, setup_has_its_controls_in_the_order_of_the_form) {
     EXPECT_EQ(dialog.id(), 185);
     EXPECT_EQ(dialog.title, "Plot Setup");
     EXPECT_EQ(labels(dialog),
-              "x min:|x max:|y min:|y max:|t min:|t max:|t step:|Plot Type:|?|Plot Cursor:|Display Grid?|Connect Dots?|"
+              "x min:|x max:|y min:|y max:|t min:|t max:|t step:|Plot Type:|?|Plot Cursor:|Display "
+              "Grid?|Connect Dots?|"
               "Disable Plots?|z Scale:|OK|Defaults|Cancel|");
   });
 }
@@ -167,7 +168,8 @@ TEST_F(plot_dialogs, setup_drops_a_view_that_is_none_in_silence) {
 
 TEST_F(plot_dialogs, setup_stays_open_with_a_message_for_what_is_no_number) {
   setup([this](TDialog& dialog) {
-    const std::vector<std::string> texts = {"", "what?", "1/0", "{1,2}", "(i)", "1+", "\"a\"", std::string(10000, '(')};
+    const std::vector<std::string> texts = {"",    "what?", "1/0",   "{1,2}",
+                                            "(i)", "1+",    "\"a\"", std::string(10000, '(')};
     for (const std::string& nonsense : texts) {
       write(dialog, "t max", nonsense);
       press(dialog, "OK");

@@ -21,15 +21,31 @@ constexpr int PLOT_SETUP = 185;
 
 // In the order of the form.
 enum TSetupControl {
-  X_MIN = 0, X_MAX, Y_MIN, Y_MAX,
-  T_MIN, T_MAX, T_STEP,
-  V_MIN, V_MAX, V_STEP,
-  TYPE, SYSTEM, CURSOR, GRID, DOTS, DISABLED, Z_SCALE,
-  OK, DEFAULTS, CANCEL
+  X_MIN = 0,
+  X_MAX,
+  Y_MIN,
+  Y_MAX,
+  T_MIN,
+  T_MAX,
+  T_STEP,
+  V_MIN,
+  V_MAX,
+  V_STEP,
+  TYPE,
+  SYSTEM,
+  CURSOR,
+  GRID,
+  DOTS,
+  DISABLED,
+  Z_SCALE,
+  OK,
+  DEFAULTS,
+  CANCEL
 };
 constexpr int FIELD_COUNT = V_STEP + 2;  // the edits up to v step, and the one of the z scale
 
-constexpr int fields[FIELD_COUNT] = {X_MIN, X_MAX, Y_MIN, Y_MAX, T_MIN, T_MAX, T_STEP, V_MIN, V_MAX, V_STEP, Z_SCALE};
+constexpr int fields[FIELD_COUNT] = {X_MIN,  X_MAX, Y_MIN, Y_MAX,  T_MIN,  T_MAX,
+                                     T_STEP, V_MIN, V_MAX, V_STEP, Z_SCALE};
 
 double& variable_of(TPlotVariables& plot, int field) {
   switch (field) {
