@@ -58,6 +58,7 @@ void run_plots(TPlotScreen& screen) {
 
 // All of it, onto the plot's picture.
 void draw_plot(TPlotScreen& screen) {
+  screen.needs_drawing = false;
   if (!is_known(plot_variables.plotType))
     return platform().show_message("Undefined Plot Type", "Bug (plot_it)");
   plot_cancelled = false;
