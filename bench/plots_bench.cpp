@@ -1,5 +1,5 @@
-// Plots from their slots to their finished picture, and what one sample of a slot costs beside the bare walk over its
-// steps.
+// Plots from their slots to their finished picture, and what one sample of a slot costs beside the bare walk
+// over its steps.
 
 #include <benchmark/benchmark.h>
 

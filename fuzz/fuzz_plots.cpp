@@ -1,5 +1,5 @@
-// Random expressions in random slots, in random views and ranges, plotted and worked with the pen. Nothing may hang,
-// write beside the picture, show a box or leave an error behind; 2+2 stays 4.
+// Random expressions in random slots, in random views and ranges, plotted and worked with the pen. Nothing
+// may hang, write beside the picture, show a box or leave an error behind; 2+2 stays 4.
 
 #include <cstdint>
 #include <string>
@@ -26,7 +26,8 @@ class TBytes {
 
 // Numbers of all sizes, the odd ones among them.
 double number(TBytes& bytes) {
-  constexpr double odd[] = {0.0, 1.0, -1.0, 1e-300, 5e-324, 1e100, -1e100, 1e308, -1e308, 6.283185307179586, 360.0, 0.36};
+  constexpr double odd[] = {0.0,   1.0, -1.0, 1e-300, 5e-324, 1e100, -1e100, 1e308, -1e308, 6.283185307179586,
+                            360.0, 0.36};
   const std::uint8_t choice = bytes.next();
   if (choice < 128) return odd[choice % (sizeof odd / sizeof odd[0])];
   return (bytes.next() - 128) * (choice & 1 ? 1.0 : 0.01);
@@ -34,10 +35,13 @@ double number(TBytes& bytes) {
 
 // Pieces that expressions are made of, so that many of them can be read.
 std::string expression(TBytes& bytes) {
-  constexpr const char* pieces[] = {"x", "t", "u", "v", "(theta)", "+", "-", "*", "/", "^(", ")", "sin(", "ln(", "sqRt(",
-                                    "1e308", "0.5", "2", "f1(x)", "f2(x)", "R1(theta)", "X1(t)", "abs(", "10^(", ",",
-                                    "->xMin", "->x", "->A", "->tStep", "->plotType", "(i)", "{x,1}", "fnDeriv(x^2,x,", "(xMean)", "!",
-                                    "Circle(x,0,", "clrDraw()", "(xMax)", "Rand", "tan(", "mod", "(Ans)"};
+  constexpr const char* pieces[] = {
+      "x",       "t",     "u",           "v",         "(theta)",    "+",     "-",     "*",
+      "/",       "^(",    ")",           "sin(",      "ln(",        "sqRt(", "1e308", "0.5",
+      "2",       "f1(x)", "f2(x)",       "R1(theta)", "X1(t)",      "abs(",  "10^(",  ",",
+      "->xMin",  "->x",   "->A",         "->tStep",   "->plotType", "(i)",   "{x,1}", "fnDeriv(x^2,x,",
+      "(xMean)", "!",     "Circle(x,0,", "clrDraw()", "(xMax)",     "Rand",  "tan(",  "mod",
+      "(Ans)"};
   std::string text;
   for (int count = bytes.next() % 24; count > 0; --count)
     text += pieces[bytes.next() % (sizeof pieces / sizeof pieces[0])];
@@ -49,7 +53,8 @@ void fill_slots(TBytes& bytes) {
     char error[200];
     const int type = bytes.next() % PLOT_TYPE_COUNT, slot = bytes.next() % PLOT_SLOT_COUNT;
     TExpression tokens;
-    if (text_to_tokens(expression(bytes).c_str(), tokens, error, sizeof error)) plot_slot(type, slot) = tokens;
+    if (text_to_tokens(expression(bytes).c_str(), tokens, error, sizeof error))
+      plot_slot(type, slot) = tokens;
   }
 }
 
@@ -75,14 +80,22 @@ void choose_view(TBytes& bytes) {
 void work(TBytes& bytes) {
   for (int count = 0; count < 6 && bytes.left(); ++count) {
     const std::uint8_t act = bytes.next();
-    if (act < 32) zoom_in();
-    else if (act < 64) zoom_out();
-    else if (act < 80) pan_up();
-    else if (act < 96) cursor_home();
-    else if (act < 112) set_plot_cursor(act % 4);
-    else if (act < 150) plot_pen_down(bytes.next(), bytes.next());
-    else if (act < 200) plot_pen_move(bytes.next() * 3 - 200, bytes.next() * 3 - 200);
-    else plot_pen_up(bytes.next(), bytes.next());
+    if (act < 32)
+      zoom_in();
+    else if (act < 64)
+      zoom_out();
+    else if (act < 80)
+      pan_up();
+    else if (act < 96)
+      cursor_home();
+    else if (act < 112)
+      set_plot_cursor(act % 4);
+    else if (act < 150)
+      plot_pen_down(bytes.next(), bytes.next());
+    else if (act < 200)
+      plot_pen_move(bytes.next() * 3 - 200, bytes.next() * 3 - 200);
+    else
+      plot_pen_up(bytes.next(), bytes.next());
     shown_plot();
   }
   forget_pen();

@@ -1,5 +1,5 @@
-// What an evaluation may change, put away and brought back: for those that evaluate on the side, as plots and the
-// fields of dialogs do, and must leave no trace. One at a time.
+// What an evaluation may change, put away and brought back: for those that evaluate on the side, as plots and
+// the fields of dialogs do, and must leave no trace. One at a time.
 #pragma once
 
 #include <type_traits>
@@ -8,8 +8,8 @@ namespace zephyl {
 
 struct TCompiled;
 
-// Puts away what any evaluation changes: memories, answers, errors, function slots, the state record. To be called
-// before the expression is compiled, which stores into function slots.
+// Puts away what any evaluation changes: memories, answers, errors, function slots, the state record. To be
+// called before the expression is compiled, which stores into function slots.
 void back_up();
 // Puts away also all that stores and commands reach, if the expression has any.
 void back_up_for(const TCompiled& compiled);

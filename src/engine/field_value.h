@@ -5,8 +5,8 @@
 
 namespace zephyl {
 
-// The real value of a text (text_form.h), computed without a trace in the calculator. False, with the reason in
-// `error`, for a text that can't be read, an error of its evaluation, and a value that is no real number.
+// The real value of a text (text_form.h), computed without a trace in the calculator. False, with the reason
+// in `error`, for a text that can't be read, an error of its evaluation, and a value that is no real number.
 bool field_value(const std::string& text, double& value, std::string& error);
 
 // A number as a field shows it: with a point, so that it reads back, and "NAN" for undefined_value.

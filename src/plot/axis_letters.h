@@ -5,8 +5,8 @@
 
 namespace zephyl {
 
-// axis: 0 x, 1 y, 2 z. The letter and a plus sign beside the pixel at which the axis ends, on a white ground of their
-// own; on its other side where the edge of the plot is near.
+// axis: 0 x, 1 y, 2 z. The letter and a plus sign beside the pixel at which the axis ends, on a white ground
+// of their own; on its other side where the edge of the plot is near.
 void draw_axis_letter(TSurface& surface, int axis, TPoint end, TColour colour);
 
 }  // namespace zephyl

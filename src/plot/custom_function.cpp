@@ -24,8 +24,9 @@ struct TParameters {
   int second;
 };
 
-constexpr TParameters parameters[PLOT_SCRATCH_TYPE + 1] = {
-    {SLOT_X, NO_SLOT}, {SLOT_THETA, NO_SLOT}, {SLOT_T, NO_SLOT}, {SLOT_U, SLOT_V}, {NO_SLOT, NO_SLOT}, {SLOT_X, NO_SLOT}};
+constexpr TParameters parameters[PLOT_SCRATCH_TYPE + 1] = {{SLOT_X, NO_SLOT},  {SLOT_THETA, NO_SLOT},
+                                                           {SLOT_T, NO_SLOT},  {SLOT_U, SLOT_V},
+                                                           {NO_SLOT, NO_SLOT}, {SLOT_X, NO_SLOT}};
 
 bool is_known(int plot_type) {
   return plot_type >= 0 && plot_type <= PLOT_SCRATCH_TYPE && parameters[plot_type].first != NO_SLOT;

@@ -14,16 +14,17 @@ extern int plot_error_code;
 // A sample ended in "Operation Canceled": the plot is to stop. Cleared by whoever starts a plot.
 extern bool plot_cancelled;
 
-// PHASE_BEGIN puts away what an evaluation changes and compiles the slot; PHASE_SAMPLE stores the parameters in the
-// variables of the type (x, theta, t, or u and v) and gives the value there, undefined_value with plot_error_code
-// where it has none; PHASE_END brings everything back. One run at a time. A box reports an unknown type or phase.
-// PLOT_SCRATCH_TYPE has its parameter in x.
+// PHASE_BEGIN puts away what an evaluation changes and compiles the slot; PHASE_SAMPLE stores the parameters
+// in the variables of the type (x, theta, t, or u and v) and gives the value there, undefined_value with
+// plot_error_code where it has none; PHASE_END brings everything back. One run at a time. A box reports an
+// unknown type or phase. PLOT_SCRATCH_TYPE has its parameter in x.
 double custom_function(int plot_type, double parameter1, double parameter2, int slot, int phase);
 
 // The three phases for a single sample. An empty slot is undefined without an error.
 double evaluate_plot_function(int plot_type, double parameter1, double parameter2, int slot);
 
-// True if the samples of the run that has begun cost next to nothing: they need no look at the clock of their own.
+// True if the samples of the run that has begun cost next to nothing: they need no look at the clock of their
+// own.
 bool samples_are_quick();
 
 }  // namespace zephyl

@@ -1,5 +1,5 @@
-// Function plots: a sample for each column, joined by lines, with a search for the edges of where a function is
-// defined. A pole between two columns is a steep line.
+// Function plots: a sample for each column, joined by lines, with a search for the edges of where a function
+// is defined. A pole between two columns is a steep line.
 
 #include <cmath>
 
@@ -51,8 +51,8 @@ class TFunctionCurve {
     row_ = row;
   }
 
-  // A curve runs up to its edge: it ends in this column at the value there, or comes from the edge in the column
-  // before.
+  // A curve runs up to its edge: it ends in this column at the value there, or comes from the edge in the
+  // column before.
   void add_edge(int column, double x, double f, bool defined) {
     const double edge = edge_value(x, defined ? f : kept_, defined);
     if (plot_cancelled) return;
@@ -101,7 +101,8 @@ void draw_slot(TSurface& target, int slot) {
 double function_row(double f) {
   constexpr double middle = PLOT_HEIGHT / 2;
   const TPlotVariables& view = plot_variables;
-  const double row = middle - (f - (view.yMin + view.yMax) / 2.0) * (middle / ((view.yMax - view.yMin) / 2.0));
+  const double row =
+      middle - (f - (view.yMin + view.yMax) / 2.0) * (middle / ((view.yMax - view.yMin) / 2.0));
   if (std::isfinite(row)) return clamp_pixel(row);
   // What overflows leaves at its own side.
   clear_faults();

@@ -1,5 +1,5 @@
-// What the pen does on the plot, by the cursor: trace, box zoom, pan, rotate. A running program that watches the pen
-// takes it for itself.
+// What the pen does on the plot, by the cursor: trace, box zoom, pan, rotate. A running program that watches
+// the pen takes it for itself.
 
 #include <algorithm>
 #include <cmath>
@@ -62,8 +62,10 @@ void box_up() {
 void pan_move() {
   TSurface& marks = plot_screen().marks;
   constexpr TColour grey = rgb(0xD0, 0xD0, 0xD0);
-  if (const TBitmap* brush = hooks.bitmap("CHECKERED_BRUSH")) marks.fill_pattern(PLOT_AREA, *brush, grey, WHITE);
-  marks.blit(drag.at.x - drag.start.x, drag.at.y - drag.start.y, PLOT_WIDTH, PLOT_HEIGHT, plot_screen().plot, 0, 0);
+  if (const TBitmap* brush = hooks.bitmap("CHECKERED_BRUSH"))
+    marks.fill_pattern(PLOT_AREA, *brush, grey, WHITE);
+  marks.blit(drag.at.x - drag.start.x, drag.at.y - drag.start.y, PLOT_WIDTH, PLOT_HEIGHT, plot_screen().plot,
+             0, 0);
   show_marks();
 }
 

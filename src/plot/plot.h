@@ -1,5 +1,5 @@
-// The plot screen as others work it: its keys, the pen, and when it is drawn. All of it belongs to PLOT_MODE; the
-// keys may be called in any mode and then only change what the next plot shows.
+// The plot screen as others work it: its keys, the pen, and when it is drawn. All of it belongs to PLOT_MODE;
+// the keys may be called in any mode and then only change what the next plot shows.
 #pragma once
 
 #include "plot/plot_mapping.h"
@@ -12,14 +12,15 @@ constexpr int PLOT_TOP = 6;
 
 // --- Drawing
 
-// The plot must be drawn anew: with the next paint in PLOT_MODE, which this asks for, or as soon as that mode is
-// entered. For every change of view, setup, functions or drawing (hooks.plot_changed).
+// The plot must be drawn anew: with the next paint in PLOT_MODE, which this asks for, or as soon as that mode
+// is entered. For every change of view, setup, functions or drawing (hooks.plot_changed).
 void request_plot();
-// The full drawing, at once: drawing layer, grid, axes, labels, and the plots of the current type, which a tap
-// cancels. While a program runs or an evaluation looks into the queue no plot is drawn, only noted; the rest shows.
+// The full drawing, at once: drawing layer, grid, axes, labels, and the plots of the current type, which a
+// tap cancels. While a program runs or an evaluation looks into the queue no plot is drawn, only noted; the
+// rest shows.
 void plot_it();
-// What the screen shows in the plot's place: the plot, or the plot under a cursor. Draws it first if it must be.
-// For the paint of the PLOT screen.
+// What the screen shows in the plot's place: the plot, or the plot under a cursor. Draws it first if it must
+// be. For the paint of the PLOT screen.
 const TSurface& shown_plot();
 // True while plot_it works: painting then only copies.
 bool is_plotting();
@@ -42,8 +43,8 @@ void set_plot_cursor(int cursor);
 void open_plot_setup();
 void open_plot_functions();
 
-// The Plot key of COMP_MODE: the entry line, which has compiled, goes into a free slot of the current plot type, and
-// Plot Functions opens.
+// The Plot key of COMP_MODE: the entry line, which has compiled, goes into a free slot of the current plot
+// type, and Plot Functions opens.
 void enter_plot_function();
 
 // --- The pen, in pixels of the screen

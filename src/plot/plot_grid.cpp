@@ -30,15 +30,18 @@ void for_grid_lines(double min, double max, TDraw draw) {
   const double step = nice_step(range), spacing = grid_spacing(range);
   if (!(step > 0.0) || !std::isfinite(step)) return;
   double offset = std::fabs(frac_part(step * min) / step);
-  for (int line = 0; line < GRID_LINE_LIMIT && offset < range; ++line, offset += spacing) draw(offset / range);
+  for (int line = 0; line < GRID_LINE_LIMIT && offset < range; ++line, offset += spacing)
+    draw(offset / range);
 }
 
 void draw_axes(TSurface& surface) {
   const TPlotVariables& view = plot_variables;
   if (view.xMin < 0.0 && view.xMax >= 0.0)
-    vertical_line(surface, static_cast<int>(PLOT_WIDTH - view.xMax / (view.xMax - view.xMin) * PLOT_WIDTH), AXIS_COLOUR);
+    vertical_line(surface, static_cast<int>(PLOT_WIDTH - view.xMax / (view.xMax - view.xMin) * PLOT_WIDTH),
+                  AXIS_COLOUR);
   if (view.yMin < 0.0 && view.yMax > 0.0)
-    horizontal_line(surface, static_cast<int>(view.yMax / (view.yMax - view.yMin) * PLOT_HEIGHT), AXIS_COLOUR);
+    horizontal_line(surface, static_cast<int>(view.yMax / (view.yMax - view.yMin) * PLOT_HEIGHT),
+                    AXIS_COLOUR);
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
-// The drawing of the plot screen: what lies under the plots, the plots, the labels on top, and when that is done.
+// The drawing of the plot screen: what lies under the plots, the plots, the labels on top, and when that is
+// done.
 
 #include <cstdint>
 
@@ -57,7 +58,9 @@ void run_plots(TPlotScreen& screen) {
 
 // All of it, onto the plot's picture.
 void draw_plot(TPlotScreen& screen) {
-  if (!is_known(plot_variables.plotType)) return platform().show_message("Undefined Plot Type", "Bug (plot_it)");
+  screen.needs_drawing = false;
+  if (!is_known(plot_variables.plotType))
+    return platform().show_message("Undefined Plot Type", "Bug (plot_it)");
   plot_cancelled = false;
   plot_point_count = 0;
   screen.marks_shown = false;

@@ -1,5 +1,5 @@
-// The plots of each type. Each draws all curves of its type onto the target, which the screen shows meanwhile, and
-// stops at once when plot_cancelled rises.
+// The plots of each type. Each draws all curves of its type onto the target, which the screen shows
+// meanwhile, and stops at once when plot_cancelled rises.
 #pragma once
 
 #include "plot/plot_variables.h"
@@ -33,11 +33,11 @@ struct TSamples {
   }
 };
 
-// None where min lies above max or a bound isn't finite, one where they are equal. A step that is no positive number
-// counts as 0.
+// None where min lies above max or a bound isn't finite, one where they are equal. A step that is no positive
+// number counts as 0.
 TSamples samples_of(double min, double max, double step);
-// Of a flat curve: a step that would lead nowhere or to more than SAMPLE_LIMIT samples counts as a thousandth of the
-// range.
+// Of a flat curve: a step that would lead nowhere or to more than SAMPLE_LIMIT samples counts as a thousandth
+// of the range.
 TSamples curve_samples(const TPlotRange& range);
 
 }  // namespace zephyl

@@ -48,8 +48,9 @@ constexpr TErrorWord error_words[] = {
 }  // namespace
 
 const char* small_error_word(int error_code) {
-  const TErrorWord* word = std::find_if(std::begin(error_words), std::end(error_words),
-                                        [error_code](const TErrorWord& row) { return row.code == error_code; });
+  const TErrorWord* word =
+      std::find_if(std::begin(error_words), std::end(error_words),
+                   [error_code](const TErrorWord& row) { return row.code == error_code; });
   return word != std::end(error_words) ? word->name : "SMALL_ERROR";
 }
 

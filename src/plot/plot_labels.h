@@ -13,8 +13,8 @@ constexpr int LABEL_GAP = 4;
 // The name of the word that stands for an undefined value: "SMALL_DOMAIN", by its plot_error_code.
 const char* small_error_word(int error_code);
 
-// A word by its name, then the number, or for undefined_value the word of plot_error_code. Returns where the next may
-// begin.
+// A word by its name, then the number, or for undefined_value the word of plot_error_code. Returns where the
+// next may begin.
 int draw_small_word(TSurface& surface, const char* name, int left, int top);
 int draw_small_line(TSurface& surface, const char* name, double value, int left, int top);
 

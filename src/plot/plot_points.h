@@ -20,7 +20,8 @@ extern int plot_point_count;
 // Adds one while there is room; a plot of more samples is drawn all the same.
 void add_plot_point(const TPlotPoint& point);
 
-// The point nearest to a place in plot units, the earlier of two that are equally near; null where no point is defined.
+// The point nearest to a place in plot units, the earlier of two that are equally near; null where no point
+// is defined.
 const TPlotPoint* nearest_plot_point(double x, double y);
 
 }  // namespace zephyl

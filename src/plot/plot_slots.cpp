@@ -66,7 +66,9 @@ int free_plot_slot() {
 
 TColour plot_colour(int plot_type, int slot) { return plot_colours[colour_index(plot_type, slot)].colour; }
 
-const char* colour_box_name(int plot_type, int slot) { return plot_colours[colour_index(plot_type, slot)].box; }
+const char* colour_box_name(int plot_type, int slot) {
+  return plot_colours[colour_index(plot_type, slot)].box;
+}
 
 int trace_function() {
   const int type = plot_variables.plotType;

@@ -9,11 +9,11 @@
 namespace zephyl {
 
 constexpr int PLOT_TYPE_COUNT = 4;
-constexpr int PLOT_SLOT_COUNT = 6;   // of each type
+constexpr int PLOT_SLOT_COUNT = 6;    // of each type
 constexpr int PLOT_SCRATCH_TYPE = 5;  // a type of its own with one slot: what Plot Calculate puts together
 
-// The expression of a slot, 0 to 5, of a TPlotType, or the scratch expression for PLOT_SCRATCH_TYPE. The three
-// kinds of 3D plot share theirs.
+// The expression of a slot, 0 to 5, of a TPlotType, or the scratch expression for PLOT_SCRATCH_TYPE. The
+// three kinds of 3D plot share theirs.
 TExpression& plot_slot(int plot_type, int slot);
 // True if the slot holds a token.
 bool slot_in_use(int plot_type, int slot);
@@ -33,8 +33,8 @@ int slots_in_use();
 // The first slot that is free for one more expression of the current type; -1 if all are in use.
 int free_plot_slot();
 
-// The colour of the curve or surface that begins at `slot`: of the slot itself; a pair has that of its index, a
-// triple that of its first slot.
+// The colour of the curve or surface that begins at `slot`: of the slot itself; a pair has that of its index,
+// a triple that of its first slot.
 TColour plot_colour(int plot_type, int slot);
 // The name of the box in that colour: "BLUE_BOX".
 const char* colour_box_name(int plot_type, int slot);

@@ -21,8 +21,8 @@ double angle_b(double drag_x) { return (drag_x + plot_variables.rotation_x) * RA
 
 }  // namespace
 
-void rotate_point(double& x, double& y, double z, double sin_a, double sin_b, double sin_c, double cos_a, double cos_b,
-                  double cos_c) {
+void rotate_point(double& x, double& y, double z, double sin_a, double sin_b, double sin_c, double cos_a,
+                  double cos_b, double cos_c) {
   const bool defined = x != undefined_value && y != undefined_value && z != undefined_value;
   const double p = z * sin_a + y * cos_a;
   const double q = z * cos_a - y * sin_a;

@@ -3,12 +3,13 @@
 
 namespace zephyl {
 
-// Turns x, y, z and leaves what the eye sees in x and y; undefined_value in both where a coordinate is undefined or
-// the turn overflows.
-void rotate_point(double& x, double& y, double z, double sin_a, double sin_b, double sin_c, double cos_a, double cos_b,
-                  double cos_c);
+// Turns x, y, z and leaves what the eye sees in x and y; undefined_value in both where a coordinate is
+// undefined or the turn overflows.
+void rotate_point(double& x, double& y, double z, double sin_a, double sin_b, double sin_c, double cos_a,
+                  double cos_b, double cos_c);
 
-// The sines and cosines of a plot: of the rotation offsets, in pixels of drag, and of a drag that is under way.
+// The sines and cosines of a plot: of the rotation offsets, in pixels of drag, and of a drag that is under
+// way.
 class TRotation {
  public:
   TRotation(double drag_x, double drag_y);

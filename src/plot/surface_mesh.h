@@ -5,7 +5,7 @@
 
 namespace zephyl {
 
-constexpr int MESH_LIMIT = 51;    // samples of a parameter
+constexpr int MESH_LIMIT = 51;  // samples of a parameter
 constexpr int SURFACE_COUNT = 2;
 
 struct TMeshPoint {
@@ -22,7 +22,8 @@ struct TMesh {
   int columns = 0;
 };
 
-// Forces the steps of both parameters, and writes them back, into the limits of a mesh, and zScale into those of a plot.
+// Forces the steps of both parameters, and writes them back, into the limits of a mesh, and zScale into those
+// of a plot.
 void limit_surface_variables();
 
 // Is told of each row that has all its coordinates, which after a cancel the rest of the rows don't get.

@@ -6,8 +6,8 @@
 #include "plot/axis_letters.h"
 #include "plot/curve.h"
 #include "plot/custom_function.h"
-#include "plot/plot.h"
 #include "plot/drawing.h"
+#include "plot/plot.h"
 #include "plot/plot_labels.h"
 #include "plot/plot_points.h"
 #include "plot/plot_screen.h"
@@ -24,7 +24,7 @@ constexpr int SLOTS_PER_SURFACE = 3;
 // --- Axes
 
 struct TAxis {
-  double x, y, z;  // its end
+  double x, y, z;       // its end
   double column = 0.0;  // of the end, on the picture
   double row = 0.0;
 };
@@ -161,7 +161,8 @@ void draw_3d_plot(TSurface& target, double offset_x, double offset_y, bool fast)
   draw_axes(target, rotation);
   if (!plots_enabled()) return;
   const int traced = trace_function() / SLOTS_PER_SURFACE;
-  for (const int surface : {1 - traced, traced}) (fast ? draw_fast_surface : draw_full_surface)(target, surface, rotation);
+  for (const int surface : {1 - traced, traced})
+    (fast ? draw_fast_surface : draw_full_surface)(target, surface, rotation);
 }
 
 void show_rotated(double offset_x, double offset_y) {

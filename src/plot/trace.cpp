@@ -21,7 +21,8 @@ constexpr int UPPER_ROW = 160;
 constexpr int LOWER_ROW = 170;
 
 // Side by side on a row.
-void draw_numbers(TSurface& surface, const char* left_name, double left, const char* right_name, double right, int row) {
+void draw_numbers(TSurface& surface, const char* left_name, double left, const char* right_name, double right,
+                  int row) {
   const int end = draw_small_line(surface, left_name, left, LABEL_LEFT, row);
   draw_small_line(surface, right_name, right, end + LABEL_GAP, row);
 }
@@ -44,7 +45,8 @@ bool trace_function_plot(TPoint pen) {
 
 void draw_polar_numbers(TSurface& marks, const TPlotPoint& point) {
   draw_small_line(marks, "SMALL_THETA", point.parameter, LABEL_LEFT, UPPER_ROW);
-  draw_small_line(marks, "SMALL_RTRACE", std::sqrt(point.x * point.x + point.y * point.y), LABEL_LEFT, LOWER_ROW);
+  draw_small_line(marks, "SMALL_RTRACE", std::sqrt(point.x * point.x + point.y * point.y), LABEL_LEFT,
+                  LOWER_ROW);
 }
 
 void draw_parametric_numbers(TSurface& marks, const TPlotPoint& point) {

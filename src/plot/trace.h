@@ -5,8 +5,8 @@
 
 namespace zephyl {
 
-// pen: a pixel of the plot's picture. Draws over a copy of the plot and shows it; false, and nothing drawn, where the
-// followed slot is empty or no point of it is defined.
+// pen: a pixel of the plot's picture. Draws over a copy of the plot and shows it; false, and nothing drawn,
+// where the followed slot is empty or no point of it is defined.
 bool trace_at(TPoint pen);
 
 }  // namespace zephyl

@@ -113,9 +113,9 @@ TEST_F(custom_function_run, does_not_flatten_near_a_zero_crossing) {
 
 TEST_F(custom_function_run, brings_back_all_that_stores_and_commands_change) {
   eval("{1,2,3}->{A}");
-  const char* const changes[] = {"x->A",      "{x,x}->{A}",  "Iden(2)->[A]", "\"ab\"->str1", "7->xMin",
-                                 "3->plotType", "2->angleMode", "entStats(x)",  "clrMem(11)",  "1->tvmN",
-                                 "x->f2(x)",  "initPlot()",  "1->calcMode",  "initDraw(1,1,1,1)"};
+  const char* const changes[] = {"x->A",        "{x,x}->{A}",   "Iden(2)->[A]", "\"ab\"->str1",     "7->xMin",
+                                 "3->plotType", "2->angleMode", "entStats(x)",  "clrMem(11)",       "1->tvmN",
+                                 "x->f2(x)",    "initPlot()",   "1->calcMode",  "initDraw(1,1,1,1)"};
   put(PLOT_FUNCTION, 3, "x");
   const TPlotVariables before = plot_variables;
   for (const char* change : changes) at(1.0, change);

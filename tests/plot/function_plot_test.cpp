@@ -40,13 +40,15 @@ TEST_F(function_plot, bounds_its_rows) {
 TEST_F(function_plot, draws_each_slot_in_its_colour) {
   for (int slot = 0; slot < 6; ++slot) put(PLOT_FUNCTION, slot, std::to_string(slot));
   draw();
-  for (int slot = 0; slot < 6; ++slot) EXPECT_EQ(rows_of(plot_colour(PLOT_FUNCTION, slot), 20), TPixels{90 - 9 * slot});
+  for (int slot = 0; slot < 6; ++slot)
+    EXPECT_EQ(rows_of(plot_colour(PLOT_FUNCTION, slot), 20), TPixels{90 - 9 * slot});
 }
 
 TEST_F(function_plot, of_a_reciprocal_runs_to_both_edges_and_keeps_its_gap) {
   put(PLOT_FUNCTION, 0, "1/x");
   draw();
-  EXPECT_EQ(evaluate_plot_function(PLOT_FUNCTION, 113 * 20 * 0.004424778761061947 - 10, 0.0, 0), undefined_value);
+  EXPECT_EQ(evaluate_plot_function(PLOT_FUNCTION, 113 * 20 * 0.004424778761061947 - 10, 0.0, 0),
+            undefined_value);
   // Downwards on the left of the pole, upwards on its right, nothing across.
   EXPECT_EQ(rows_of(BLUE, 112).back(), 179);
   EXPECT_EQ(rows_of(BLUE, 114).front(), 0);

@@ -7,11 +7,11 @@
 #include "engine/state.h"
 #include "engine/values.h"
 #include "plot/custom_function.h"
+#include "plot/pen_position.h"
 #include "plot/plot_labels.h"
 #include "plot/plot_marks.h"
 #include "plot/plot_points.h"
 #include "plot/plotting.h"
-#include "plot/pen_position.h"
 
 namespace zephyl {
 namespace {
@@ -31,7 +31,8 @@ class plot_pen : public plotting {
   static void expect_trace(TSurface plot, double column, double row, TColour colour,
                            const std::vector<TNumber>& numbers) {
     draw_cross(plot, column, row, colour, MARKER_DOTS);
-    for (const TNumber& number : numbers) draw_small_line(plot, number.name, number.value, number.left, number.row);
+    for (const TNumber& number : numbers)
+      draw_small_line(plot, number.name, number.value, number.left, number.row);
     EXPECT_TRUE(same_picture(plot, shown_plot()));
   }
 };
@@ -76,7 +77,8 @@ TEST_F(plot_pen, shows_the_word_of_an_undefined_value_and_no_horizontal_line) {
   const TSurface plot = draw();
   pen_down(113, 30);
   EXPECT_EQ(plot_error_code, ERR_ZERO_DIVIDE);
-  expect_trace(plot, 113, undefined_value, BLUE, {{"SMALL_XTRACE", 0.0, 2, 160}, {"SMALL_YTRACE", undefined_value, 2, 170}});
+  expect_trace(plot, 113, undefined_value, BLUE,
+               {{"SMALL_XTRACE", 0.0, 2, 160}, {"SMALL_YTRACE", undefined_value, 2, 170}});
 }
 
 TEST_F(plot_pen, shows_data_type_for_a_complex_value) {
@@ -109,7 +111,8 @@ TEST_F(plot_pen, traces_the_nearest_point_of_a_polar_curve) {
   const TSurface plot = draw();
   pen_down(112, 5);
   const TPlotPoint& point = plot_points[6];
-  expect_trace(plot, point.column, point.row, BLUE, {{"SMALL_THETA", 1.5, 2, 160}, {"SMALL_RTRACE", 6.0, 2, 170}});
+  expect_trace(plot, point.column, point.row, BLUE,
+               {{"SMALL_THETA", 1.5, 2, 160}, {"SMALL_RTRACE", 6.0, 2, 170}});
 }
 
 TEST_F(plot_pen, traces_the_nearest_point_of_a_parametric_curve) {
@@ -123,8 +126,9 @@ TEST_F(plot_pen, traces_the_nearest_point_of_a_parametric_curve) {
   const TPlotPoint& point = plot_points[11];
   TSurface measure(300, 20);
   const int end = draw_small_line(measure, "SMALL_XTTRACE", 3.0, 2, 2);
-  expect_trace(plot, point.column, point.row, RED,
-               {{"SMALL_T", 3.0, 2, 160}, {"SMALL_XTTRACE", 3.0, 2, 170}, {"SMALL_YTTRACE", -3.0, end + 4, 170}});
+  expect_trace(
+      plot, point.column, point.row, RED,
+      {{"SMALL_T", 3.0, 2, 160}, {"SMALL_XTTRACE", 3.0, 2, 170}, {"SMALL_YTTRACE", -3.0, end + 4, 170}});
 }
 
 TEST_F(plot_pen, traces_the_slot_values_of_a_surface) {
@@ -151,7 +155,8 @@ TEST_F(plot_pen, follows_the_drag_and_stays_where_it_was_lifted) {
   pen_move(60, 50);
   pen_up(60, 50);
   const double x = 60 * 20 * 0.004424778761061947 - 10;
-  expect_trace(plot, 60, std::floor(90 - x * 9), BLUE, {{"SMALL_XTRACE", x, 2, 160}, {"SMALL_YTRACE", x, 2, 170}});
+  expect_trace(plot, 60, std::floor(90 - x * 9), BLUE,
+               {{"SMALL_XTRACE", x, 2, 160}, {"SMALL_YTRACE", x, 2, 170}});
 }
 
 TEST_F(plot_pen, leaves_variables_and_answers_alone) {

@@ -18,7 +18,8 @@ class plotting : public calculator {
   // The expression of a slot in the text form; "" empties it.
   static void put(int plot_type, int slot, const std::string& text);
   // Three expressions of a surface, 0 or 1.
-  static void put_surface(int surface, const std::string& first, const std::string& second, const std::string& third);
+  static void put_surface(int surface, const std::string& first, const std::string& second,
+                          const std::string& third);
   static void choose(int plot_type, int plot_type_3d = PLOT_CARTESIAN);
   // Only curves: neither grid nor labels.
   static void without_grid() { plot_variables.displayGrid = 0; }

@@ -292,10 +292,10 @@ TEST_F(surface_plot, letters_stand_right_below_the_end_of_their_axis) {
   TSurface surface(PLOT_WIDTH, PLOT_HEIGHT);
   surface.fill(PLOT_AREA, GRID_GREY);
   draw_axis_letter(surface, 0, {50, 60}, RED);
-  EXPECT_EQ(surface.pixel(55, 65), RED);           // (0, 0) of the letter
-  EXPECT_EQ(surface.pixel(56, 67), RED);           // (1, 2)
-  EXPECT_EQ(surface.pixel(55 + 5, 65 + 3), RED);   // of the plus sign
-  EXPECT_EQ(surface.pixel(56, 65), WHITE);         // the ground
+  EXPECT_EQ(surface.pixel(55, 65), RED);          // (0, 0) of the letter
+  EXPECT_EQ(surface.pixel(56, 67), RED);          // (1, 2)
+  EXPECT_EQ(surface.pixel(55 + 5, 65 + 3), RED);  // of the plus sign
+  EXPECT_EQ(surface.pixel(56, 65), WHITE);        // the ground
   EXPECT_EQ(surface.pixel(54, 64), WHITE);
   EXPECT_EQ(surface.pixel(53, 64), GRID_GREY);
 }

@@ -12,13 +12,12 @@ namespace {
 constexpr int COORDINATE_SYSTEM = 195;
 constexpr int PICTURE_WIDTH = 200;
 constexpr int PICTURE_HEIGHT = 187;
-constexpr int MARGIN = 5;
 
 TSurface picture_of(int kind) {
   constexpr const char* names[PLOT_KIND_COUNT] = {"FUNCTION",  "POLAR",       "PARAMETRIC",
                                                   "CARTESIAN", "CYLINDRICAL", "SPHERICAL"};
-  TSurface picture(PICTURE_WIDTH + 2 * MARGIN, PICTURE_HEIGHT + 2 * MARGIN);
-  hooks.draw_image(picture, names[kind], MARGIN, MARGIN);
+  TSurface picture(PICTURE_WIDTH, PICTURE_HEIGHT);
+  hooks.draw_image(picture, names[kind], 0, 0);
   return picture;
 }
 

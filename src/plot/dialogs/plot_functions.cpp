@@ -17,8 +17,8 @@ namespace {
 
 constexpr int PLOT_FUNCTIONS = 186;
 
-// A line is a box in the colour of its plot, an edit and a button.
-enum TLineControl { COLOUR_BOX = 0, EXPRESSION, CLEAR, LINE_CONTROLS };
+// A line is an edit, a box in the colour of its plot and a button.
+enum TLineControl { EXPRESSION = 0, COLOUR_BOX, CLEAR, LINE_CONTROLS };
 constexpr int TRACE = PLOT_SLOT_COUNT * LINE_CONTROLS;
 constexpr int OK = TRACE + 1;
 
@@ -49,12 +49,11 @@ TSurface colour_box(int slot) {
 }
 
 void add_line(TDialog& dialog, int slot) {
-  const std::string label = slot_label(slot);
-  dialog.add(picture_control("Colour of " + label, colour_box(slot)));
-  TControl edit = edit_control(label, slot_text(slot));
+  TControl box = picture_control("", colour_box(slot));
   TControl clear = button_control("Clear");
-  edit.beside = clear.beside = true;
-  dialog.add(edit);
+  box.beside = clear.beside = true;
+  dialog.add(edit_control(slot_label(slot), slot_text(slot)));
+  dialog.add(box);
   dialog.add(clear);
 }
 

@@ -1,5 +1,6 @@
 // Plot Setup: the view, the parameter ranges, what is plotted and how.
 
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -20,15 +21,31 @@ constexpr int PLOT_SETUP = 185;
 
 // In the order of the form.
 enum TSetupControl {
-  X_MIN = 0, X_MAX, Y_MIN, Y_MAX,
-  T_MIN, T_MAX, T_STEP,
-  V_MIN, V_MAX, V_STEP,
-  TYPE, SYSTEM, CURSOR, GRID, DOTS, DISABLED, Z_SCALE,
-  OK, DEFAULTS, CANCEL
+  X_MIN = 0,
+  X_MAX,
+  Y_MIN,
+  Y_MAX,
+  T_MIN,
+  T_MAX,
+  T_STEP,
+  V_MIN,
+  V_MAX,
+  V_STEP,
+  TYPE,
+  SYSTEM,
+  CURSOR,
+  GRID,
+  DOTS,
+  DISABLED,
+  Z_SCALE,
+  OK,
+  DEFAULTS,
+  CANCEL
 };
 constexpr int FIELD_COUNT = V_STEP + 2;  // the edits up to v step, and the one of the z scale
 
-constexpr int fields[FIELD_COUNT] = {X_MIN, X_MAX, Y_MIN, Y_MAX, T_MIN, T_MAX, T_STEP, V_MIN, V_MAX, V_STEP, Z_SCALE};
+constexpr int fields[FIELD_COUNT] = {X_MIN,  X_MAX, Y_MIN, Y_MAX,  T_MIN,  T_MAX,
+                                     T_STEP, V_MIN, V_MAX, V_STEP, Z_SCALE};
 
 double& variable_of(TPlotVariables& plot, int field) {
   switch (field) {
@@ -61,8 +78,13 @@ std::string shown_value(int field) { return field_text(variable_of(plot_variable
 
 // --- Building
 
-void add_range(TDialog& dialog, const std::string& letter) {
-  for (const char* end : {" min:", " max:", " step:"}) dialog.add(edit_control(letter + end, ""));
+TControl beside(TControl control) {
+  control.beside = true;
+  return control;
+}
+
+void add_fields(TDialog& dialog, const std::string& name, std::initializer_list<const char*> parts) {
+  for (const char* part : parts) dialog.add(edit_control(name + part, ""));
 }
 
 std::vector<std::string> kind_names() {
@@ -71,15 +93,9 @@ std::vector<std::string> kind_names() {
   return names;
 }
 
-TControl beside(TControl control) {
-  control.beside = true;
-  return control;
-}
-
 void add_controls(TDialog& dialog) {
-  for (const char* label : {"x min:", "x max:", "y min:", "y max:"}) dialog.add(edit_control(label, ""));
-  add_range(dialog, "t");
-  add_range(dialog, "v");
+  for (const char* axis : {"x", "y"}) add_fields(dialog, axis, {" min:", " max:"});
+  for (const char* parameter : {"t", "v"}) add_fields(dialog, parameter, {" min:", " max:", " step:"});
   dialog.add(combo_control("Plot Type:", kind_names()));
   dialog.add(beside(button_control("?")));
   dialog.add(combo_control("Plot Cursor:", {"Trace", "Box Zoom", "Pan", "Rotate"}));

@@ -163,7 +163,8 @@ void TLayouter::lay_pieces(const TLine& line) {
     const int columns = i + 1 == line.size() ? columns_ - column : 2;
     lay_piece(line[i], column, columns);
     grid_->setRowStretch(row_, std::max(grid_->rowStretch(row_), stretch_of(line[i])));
-    if (control(line[i]).kind != CONTROL_BUTTON) grid_->setColumnStretch(column + 1, 1);
+    const TControlKind kind = control(line[i]).kind;
+    if (kind != CONTROL_BUTTON && kind != CONTROL_PICTURE) grid_->setColumnStretch(column + 1, 1);
   }
   ++row_;
 }
