@@ -199,6 +199,7 @@ TEST_F(editor, the_cursor_stops_at_both_ends_and_stays_in_view) {
 TEST_F(editor, long_expressions_take_rows_of_the_view) {
   rows_of_statement = [](int index) { return index == 5 ? 4 : 1; };
   for (int i = 0; i < 8; ++i) add_statement(CODE_STOP);
+  select_statement(0);
   select_statement(6);
   EXPECT_EQ(program.top, 2);
 }
