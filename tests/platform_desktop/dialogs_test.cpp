@@ -229,9 +229,14 @@ TEST_F(desktop_dialogs, a_file_is_asked_for_with_its_type) {
     EXPECT_EQ(box->nameFilters(), QStringList{"State Files (*.state)"});
     EXPECT_EQ(box->acceptMode(), QFileDialog::AcceptSave);
     EXPECT_EQ(box->directory().absolutePath(), QDir(folder_.path()).absolutePath());
-    box->selectFile("mine");
-    box->findChild<QPushButton*>()->setFocus();
-    QMetaObject::invokeMethod(box, "accept");
+    // The box takes a name only once it has read the folder, which it does in a thread of its own.
+    auto* const insist = new QTimer(box);
+    QObject::connect(insist, &QTimer::timeout, box, [box] {
+      box->selectFile("mine");
+      box->findChild<QPushButton*>()->setFocus();
+      QMetaObject::invokeMethod(box, "accept");
+    });
+    insist->start(20);
   }});
   EXPECT_TRUE(platform_->choose_file(question, path));
   EXPECT_EQ(QString::fromStdString(path), QDir(folder_.path()).absoluteFilePath("mine.state"));
