@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "engine/state.h"
+#include "persistence/text_file.h"
 #include "platform/platform.h"
 
 namespace zephyl {
@@ -86,7 +87,7 @@ bool other_may_stand() {
 bool may_stand(int code) {
   if (program.cursor == 0 && code != CODE_FUNC && stands(0, STATEMENT_FUNC))
     return refuse("Can't add statement here. The function statement must appear on the first line of a program.");
-  if (code == CODE_FUNC) return func_may_stand();
+  if (code == CODE_FUNC) return (program.cursor != 1 || other_may_stand()) && func_may_stand();
   return code == CODE_DESCRIPTION ? description_may_stand() : other_may_stand();
 }
 
@@ -230,7 +231,8 @@ bool has_description() {
 }
 
 void set_description(const std::string& stored) {
-  const std::size_t length = std::min(stored.size(), sizeof program.description - 1);
+  constexpr std::size_t most = LINE_LIMIT - 1 - 3;  // a longer line, "Z: " with it, would end the file
+  const std::size_t length = std::min(stored.size(), most);
   std::memcpy(program.description, stored.data(), length);
   program.description[length] = 0;
   if (has_description())

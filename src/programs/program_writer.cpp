@@ -3,6 +3,7 @@
 #include "engine/errors.h"
 #include "persistence/text_file.h"
 #include "programs/program.h"
+#include "programs/program_cache.h"
 #include "programs/program_files.h"
 #include "programs/programs.h"
 
@@ -47,6 +48,7 @@ std::string program_file_text(const TProgram& source) {
 
 bool save_program() {
   if (program.name[0] == 0 || program.built_in) return true;
+  forget_programs();  // a kept text would be the one before the edit
   remember_place(program.name, program.cursor, program.top);
   return write_file(program_path(program.name), program_file_text(program));
 }

@@ -1,6 +1,7 @@
 #include "programs/programs.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "engine/hooks.h"
 #include "engine/memory.h"
@@ -27,7 +28,8 @@ bool running_program(TRunningProgram& running) {
   running.name = run.part.name;
   running.paused = state.at_prompt || state.key_wait;
   // Behind the last statement it is still that one.
-  const bool at_end = !running.paused && run.part.pc > 0 && run.part.pc == program.statement_count;
+  const bool own = std::strcmp(program.name, run.part.name) == 0;  // not one that a statement has just loaded
+  const bool at_end = own && !running.paused && run.part.pc > 0 && run.part.pc == program.statement_count;
   running.statement = std::max(0, run.part.pc - (at_end ? 1 : 0));
   return true;
 }

@@ -57,6 +57,7 @@ void run_edited_program() {
 void choose_and_run() {
   TProgramChoice choice;
   if (!select_program_to_run(choice)) return;
+  if (state.calcMode == PROGRAM_EDIT_MODE) save_program();
   clear_error();
   forget_programs();
   if (load_program(choice.name.c_str(), choice.built_in) < 0) return show_error(ERR_PROGRAM_NOT_FOUND);
