@@ -223,7 +223,10 @@ void take_expression_back() {
   if (statement.number != STATEMENT_EXPRESS) return;
   statement_expression(statement, entry_line.expression);
   entry_line.cursor = entry_line.expression.count;
+  entry_line.cursor_shown = true;
   state.fresh_flag = false;
+  state.result_text[0] = 0;  // it belongs to another expression
+  state.result_shown = false;
 }
 
 bool has_description() {

@@ -58,6 +58,12 @@ TEST_F(stats_plots, the_last_bin_includes_its_upper_edge) {
   EXPECT_EQ(values_in_bin(data, 5, 1, 2), 3);
 }
 
+TEST_F(stats_plots, rounding_moves_no_value_over_an_edge) {
+  const double data[] = {0, 49, 98};
+  EXPECT_EQ(values_in_bin(data, 3, 0, 2), 1);
+  EXPECT_EQ(values_in_bin(data, 3, 1, 2), 2);
+}
+
 TEST_F(stats_plots, equal_values_are_all_in_the_first_bin) {
   const double data[] = {4, 4, 4};
   EXPECT_EQ(values_in_bin(data, 3, 0, 10), 3);

@@ -5,6 +5,7 @@
 #include "faceplate/dialogs/statement_rows.h"
 #include "platform/dialog.h"
 #include "programs/built_in_programs.h"
+#include "programs/function_header.h"
 #include "programs/program_files.h"
 
 namespace zephyl {
@@ -18,17 +19,31 @@ enum TEditControl { NAME, ACTION, TYPE };
 
 TEditChoice last;
 
-TRows names_of_type(int type) {
-  TRows names = type == BUILT_IN ? built_in_names() : program_names();
-  if (names.empty()) names.emplace_back(NONE_FOUND);
-  return names;
+TRows names_of_type(int type) { return type == BUILT_IN ? built_in_names() : program_names(); }
+
+// A custom function is followed by its arguments.
+std::string row_text(const std::string& name, int type) {
+  TFunctionHeader header;
+  if (type == BUILT_IN || read_function_header(name.c_str(), header) == NO_FUNCTION) return name;
+  return name + "(" + arguments_text(header) + ")";
 }
 
 void fill(TDialog& dialog) {
   TControl& list = dialog[NAME];
-  list.rows = names_of_type(dialog[TYPE].selected);
-  const auto found = std::find(list.rows.begin(), list.rows.end(), last.name);
-  list.selected = found == list.rows.end() ? 0 : static_cast<int>(found - list.rows.begin());
+  const int type = dialog[TYPE].selected;
+  const TRows names = names_of_type(type);
+  list.rows.clear();
+  for (const std::string& name : names) list.rows.push_back(row_text(name, type));
+  if (list.rows.empty()) list.rows.emplace_back(NONE_FOUND);
+  const auto found = std::find(names.begin(), names.end(), last.name);
+  list.selected = found == names.end() ? 0 : static_cast<int>(found - names.begin());
+}
+
+// The name in the selected row; empty where there is none.
+std::string selected_name(const TDialog& dialog) {
+  const TRows names = names_of_type(dialog[TYPE].selected);
+  const auto row = static_cast<std::size_t>(dialog[NAME].selected);
+  return row < names.size() ? names[row] : "";
 }
 
 }  // namespace
@@ -44,10 +59,10 @@ bool select_program_to_edit(TEditChoice& choice) {
     if (event.kind == CONTROL_ACTIVATED && event.control == NAME) open.close(0);
   };
   if (!confirmed_with_ok(dialog)) return false;
-  const std::string name = dialog[NAME].rows[static_cast<std::size_t>(dialog[NAME].selected)];
   choice.built_in = dialog[TYPE].selected == BUILT_IN;
   choice.action = dialog[ACTION].selected;
-  choice.name = !choice.built_in && name == NONE_FOUND ? "" : name;
+  choice.name = selected_name(dialog);
+  if (choice.name.empty() && choice.action != NEW_PROGRAM) return false;
   last = choice;
   return true;
 }

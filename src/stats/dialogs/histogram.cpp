@@ -1,6 +1,7 @@
 // The histogram: how many values fall into each of a number of bins of equal width.
 
 #include <algorithm>
+#include <cmath>
 
 #include "platform/dialog.h"
 #include "platform/platform.h"
@@ -32,7 +33,13 @@ TExtent extent_of(const double* data, int count) {
 
 int bin_of(double value, const TExtent& extent, int bin_count) {
   const double place = plot_share(value, extent.low, extent.high, bin_count);
-  return std::clamp(static_cast<int>(place), 0, bin_count - 1);
+  const int bin = std::clamp(static_cast<int>(place), 0, bin_count - 1);
+  const double range = extent.high - extent.low;
+  if (range == 0.0 || !std::isfinite(range)) return bin;
+  // Rounding must not move a value over an edge.
+  const double width = range / bin_count, above = value - extent.low;
+  if (bin + 1 < bin_count && above >= (bin + 1) * width) return bin + 1;
+  return bin > 0 && above < bin * width ? bin - 1 : bin;
 }
 
 std::vector<int> bin_counts(const double* data, int count, int bin_count) {
