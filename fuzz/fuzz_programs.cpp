@@ -2,8 +2,6 @@
 // statements. The program may call itself, as a program and as a function; dialogs are cancelled, prompts and
 // pauses answered.
 
-#include <unistd.h>
-
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -18,6 +16,7 @@
 #include "programs/program_writer.h"
 #include "programs/programs.h"
 #include "programs/statement_text.h"
+#include "support/temporary_folder.h"
 
 namespace {
 
@@ -28,13 +27,9 @@ constexpr const char* NAME = "A";  // under which the program can call itself
 
 // A folder of this process for the file.
 void take_folder() {
-  static const bool taken = [] {
-    char folder[] = "/tmp/zephyl-fuzz-XXXXXX";
-    if (!mkdtemp(folder)) std::abort();
-    fuzz_platform().folder = folder;
-    return true;
-  }();
-  (void)taken;
+  static const TTemporaryFolder folder;
+  if (folder.path().empty()) std::abort();
+  fuzz_platform().folder = folder.path().string();
 }
 
 void write_bytes(const std::uint8_t* data, std::size_t size) {

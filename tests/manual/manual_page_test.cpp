@@ -8,19 +8,14 @@
 #include <filesystem>
 #include <fstream>
 
+#include "support/temporary_folder.h"
+
 namespace zephyl {
 
 namespace {
 
 class manual_pages : public ::testing::Test {
  protected:
-  manual_pages() {
-    std::string name = (std::filesystem::temp_directory_path() / "zephyl-page-XXXXXX").string();
-    folder_ = mkdtemp(name.data());
-    path_ = (folder_ / "page.md").string();
-  }
-  ~manual_pages() override { std::filesystem::remove_all(folder_); }
-
   TManualPage page(const std::string& text) {
     std::ofstream(path_) << text;
     return read_manual_page(path_);
@@ -35,8 +30,8 @@ class manual_pages : public ::testing::Test {
     return printed;
   }
 
-  std::filesystem::path folder_;
-  std::string path_;
+  const TTemporaryFolder folder_;
+  const std::string path_ = (folder_.path() / "page.md").string();
 };
 
 TEST_F(manual_pages, examples_that_hold_are_silent) {

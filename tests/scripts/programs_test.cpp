@@ -8,6 +8,8 @@
 #include <fstream>
 #include <string>
 
+#include "support/temporary_folder.h"
+
 namespace {
 
 struct TOutcome {
@@ -18,12 +20,6 @@ struct TOutcome {
 // Runs a program in an empty folder with `input` as its standard input.
 class programs : public ::testing::Test {
  protected:
-  programs() {
-    std::string name = (std::filesystem::temp_directory_path() / "zephyl-programs-XXXXXX").string();
-    folder_ = mkdtemp(name.data());
-  }
-  ~programs() override { std::filesystem::remove_all(folder_); }
-
   TOutcome run(const std::string& program, const std::string& input) {
     std::ofstream(folder_ / "input") << input;
     const std::string command = "cd '" + folder_.string() + "' && '" + program + "' <input 2>&1";
@@ -41,7 +37,8 @@ class programs : public ::testing::Test {
     return run(copy.string(), input);
   }
 
-  std::filesystem::path folder_;
+  const zephyl::TTemporaryFolder own_;
+  const std::filesystem::path folder_ = own_.path();
 };
 
 TEST_F(programs, script_answers_and_ends_with_status_0) {

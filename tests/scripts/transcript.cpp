@@ -9,6 +9,7 @@
 #include "app/start_up.h"
 #include "platform/script/script.h"
 #include "support/program_listing.h"
+#include "support/temporary_folder.h"
 
 namespace zephyl {
 
@@ -40,28 +41,24 @@ class TTranscriptChannel : public TScriptChannel {
   std::size_t next_ = 0;
 };
 
-// An empty folder, current while it lives and removed afterwards.
-class TTemporaryFolder {
+// An empty folder that is the current one while it lives.
+class TWorkingFolder {
  public:
-  TTemporaryFolder() : before_(std::filesystem::current_path()) {
-    std::string name = (std::filesystem::temp_directory_path() / "zephyl-transcript-XXXXXX").string();
-    if (!mkdtemp(name.data())) return;
-    folder_ = name;
-    std::filesystem::current_path(folder_);
+  TWorkingFolder() : before_(std::filesystem::current_path()) {
+    if (made()) std::filesystem::current_path(folder_.path());
   }
-  ~TTemporaryFolder() {
+  ~TWorkingFolder() {
     std::error_code ignored;
     std::filesystem::current_path(before_, ignored);
-    if (!folder_.empty()) std::filesystem::remove_all(folder_, ignored);
   }
-  TTemporaryFolder(const TTemporaryFolder&) = delete;
-  TTemporaryFolder& operator=(const TTemporaryFolder&) = delete;
+  TWorkingFolder(const TWorkingFolder&) = delete;
+  TWorkingFolder& operator=(const TWorkingFolder&) = delete;
 
-  bool made() const { return !folder_.empty(); }
+  bool made() const { return !folder_.path().empty(); }
 
  private:
-  std::filesystem::path before_;
-  std::filesystem::path folder_;
+  const TTemporaryFolder folder_;
+  const std::filesystem::path before_;
 };
 
 constexpr const char* PROGRAM_EXTENSION = ".prgm";
@@ -158,7 +155,7 @@ bool run_transcript(TTranscript& transcript) {
 }
 
 bool run_transcript(TTranscript& transcript, TScriptPlatform& platform) {
-  const TTemporaryFolder folder;
+  const TWorkingFolder folder;
   if (!folder.made()) return false;
   write_programs(transcript);
   set_platform(&platform);

@@ -122,27 +122,16 @@ void TTestFolder::give_up_root() {
   constexpr uid_t NOBODY = 65534;
   if (::geteuid() != 0) return;
   namespace fs = std::filesystem;
-  EXPECT_EQ(::chown(path_.c_str(), NOBODY, NOBODY), 0);
-  for (const auto& entry : fs::recursive_directory_iterator(path_))
+  EXPECT_EQ(::chown(path().c_str(), NOBODY, NOBODY), 0);
+  for (const auto& entry : fs::recursive_directory_iterator(path()))
     EXPECT_EQ(::chown(entry.path().c_str(), NOBODY, NOBODY), 0);
   EXPECT_EQ(::setgid(NOBODY), 0);
   EXPECT_EQ(::setuid(NOBODY), 0);
 }
 
-TTestFolder::TTestFolder() {
-  char name[] = "/tmp/zephyl-test-XXXXXX";
-  path_ = ::mkdtemp(name);
-}
-
-TTestFolder::~TTestFolder() {
-  std::error_code ignored;
-  std::filesystem::permissions(path_, std::filesystem::perms::owner_all, ignored);
-  std::filesystem::remove_all(path_, ignored);
-}
-
 std::string TTestFolder::names() const {
   std::vector<std::string> found;
-  for (const auto& entry : std::filesystem::directory_iterator(path_))
+  for (const auto& entry : std::filesystem::directory_iterator(path()))
     found.push_back(entry.path().filename());
   std::sort(found.begin(), found.end());
   std::string text;

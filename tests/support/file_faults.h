@@ -5,6 +5,8 @@
 #include <functional>
 #include <string>
 
+#include "support/temporary_folder.h"
+
 namespace zephyl {
 
 enum TFileFault {
@@ -33,11 +35,9 @@ bool dies_at_call(int n, const std::function<void()>& save);
 std::string file_content(const std::string& path);
 void make_file(const std::string& path, const std::string& content);
 
-// A folder for one test, empty at first and removed with all it holds at the end.
+// A folder for one test, with what its files are.
 class TTestFolder {
  public:
-  TTestFolder();
-  ~TTestFolder();
   const std::string& path() const { return path_; }
   std::string file(const std::string& name) const { return path_ + '/' + name; }
   // Names of what it holds, sorted, with blanks between.
@@ -46,7 +46,8 @@ class TTestFolder {
   void give_up_root();
 
  private:
-  std::string path_;
+  TTemporaryFolder folder_;
+  std::string path_ = folder_.path().string();
 };
 
 }  // namespace zephyl

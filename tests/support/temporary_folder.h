@@ -1,0 +1,23 @@
+// A folder of a test's own.
+#pragma once
+
+#include <filesystem>
+
+namespace zephyl {
+
+// Empty at first, removed at the end with all that it holds, whatever rights a test has taken from it.
+class TTemporaryFolder {
+ public:
+  TTemporaryFolder();
+  ~TTemporaryFolder();
+  TTemporaryFolder(const TTemporaryFolder&) = delete;
+  TTemporaryFolder& operator=(const TTemporaryFolder&) = delete;
+
+  // Empty if no folder could be made.
+  const std::filesystem::path& path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+}  // namespace zephyl
