@@ -2,6 +2,8 @@
 #   cmake -D folder=FOLDER -D output=FILE -P built_in_programs.cmake
 # One program a file, in the order of their names; "End Programs" stands last and closes the text. Lines end in CR LF in
 # the text, however they end in the file.
+include(${CMAKE_CURRENT_LIST_DIR}/text_bytes.cmake)
+
 file(GLOB names RELATIVE ${folder} ${folder}/*.prgm)
 list(SORT names CASE INSENSITIVE)
 list(REMOVE_ITEM names "End Programs.prgm")
@@ -9,10 +11,7 @@ list(APPEND names "End Programs.prgm")
 
 set(text "")
 foreach(name IN LISTS names)
-  file(READ "${folder}/${name}" bytes HEX)
-  string(REGEX REPLACE "(..)" "0x\\1," bytes "${bytes}")
-  string(REPLACE "0x0d," "" bytes "${bytes}")
-  string(REPLACE "0x0a," "0x0d,0x0a,\n" bytes "${bytes}")
+  text_bytes("${folder}/${name}" bytes)
   string(APPEND text "${bytes}")
 endforeach()
 

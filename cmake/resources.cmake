@@ -31,7 +31,7 @@ set(texts_source ${CMAKE_BINARY_DIR}/generated/texts_data.cpp)
 add_custom_command(
   OUTPUT ${texts_source}
   COMMAND ${CMAKE_COMMAND} -D folder=${texts_folder} -D output=${texts_source} -P ${CMAKE_SOURCE_DIR}/cmake/text_table.cmake
-  DEPENDS ${text_files} ${CMAKE_SOURCE_DIR}/cmake/text_table.cmake
+  DEPENDS ${text_files} ${CMAKE_SOURCE_DIR}/cmake/text_table.cmake ${CMAKE_SOURCE_DIR}/cmake/text_bytes.cmake
   COMMENT "Gathering the texts")
 target_sources(zephyl_core PRIVATE ${texts_source})
 
@@ -43,6 +43,6 @@ add_custom_command(
   OUTPUT ${programs_source}
   COMMAND ${CMAKE_COMMAND} -D folder=${programs_folder} -D output=${programs_source}
           -P ${CMAKE_SOURCE_DIR}/cmake/built_in_programs.cmake
-  DEPENDS ${program_files} ${CMAKE_SOURCE_DIR}/cmake/built_in_programs.cmake
+  DEPENDS ${program_files} ${CMAKE_SOURCE_DIR}/cmake/built_in_programs.cmake ${CMAKE_SOURCE_DIR}/cmake/text_bytes.cmake
   COMMENT "Joining the built-in programs")
 target_sources(zephyl_core PRIVATE ${programs_source})

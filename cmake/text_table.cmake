@@ -2,6 +2,8 @@
 #   cmake -D folder=FOLDER -D output=FILE -P text_table.cmake
 # A file's name is its path below the folder without the extension. Lines end in CR LF in the table, however they end
 # in the file.
+include(${CMAKE_CURRENT_LIST_DIR}/text_bytes.cmake)
+
 file(GLOB_RECURSE paths RELATIVE ${folder} ${folder}/*)
 list(SORT paths)
 
@@ -9,10 +11,7 @@ set(arrays "")
 set(rows "")
 set(count 0)
 foreach(path IN LISTS paths)
-  file(READ ${folder}/${path} bytes HEX)
-  string(REGEX REPLACE "(..)" "0x\\1," bytes "${bytes}")
-  string(REPLACE "0x0d," "" bytes "${bytes}")
-  string(REPLACE "0x0a," "0x0d,0x0a,\n" bytes "${bytes}")
+  text_bytes(${folder}/${path} bytes)
   string(REGEX REPLACE "\\.[^./]*$" "" name "${path}")
   string(APPEND arrays "const unsigned char text_${count}[] = {\n${bytes}0};\n")
   string(APPEND rows "    {\"${name}\", reinterpret_cast<const char*>(text_${count}), sizeof text_${count} - 1},\n")

@@ -8,7 +8,11 @@
 #include "engine/faults.h"
 #include "engine/operation_table.h"
 #include "engine/state.h"
+#include "faceplate/catalog/function_catalog.h"
+#include "faceplate/catalog/variable_catalog.h"
+#include "faceplate/dialogs/edit_program.h"
 #include "faceplate/dialogs/remembered.h"
+#include "faceplate/dialogs/statement_operands.h"
 #include "faceplate/display.h"
 #include "faceplate/entry_line_view.h"
 #include "faceplate/key_feedback.h"
@@ -24,7 +28,9 @@
 #include "plot/plot.h"
 #include "plot/plot_variables.h"
 #include "plot/zoom_locks.h"
+#include "programs/editor.h"
 #include "programs/programs.h"
+#include "stats/dialogs/stats_plots.h"
 #include "stats/stats.h"
 #include "tools/tvm_state.h"
 
@@ -44,6 +50,12 @@ void reset_all() {
   reset_drawing();
   reset_tvm_state();
   remembered = {};
+  reset_function_catalog();
+  reset_variable_catalog();
+  reset_editor();
+  reset_statement_dialogs();
+  reset_edit_program_dialog();
+  histogram = {};
   forget_key_feedback();
 }
 

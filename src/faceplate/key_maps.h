@@ -11,7 +11,6 @@ extern const TKeyMap stats_key_map;
 extern const TKeyMap program_key_map;
 extern const TKeyMap periodic_key_map;
 extern const TKeyMap plot_key_map;
-extern const TKeyMap matrix_key_map;
-extern const TKeyMap list_key_map;
+extern const TKeyMap table_key_map;  // of MATRIX_MODE and LIST_MODE
 
 }  // namespace zephyl

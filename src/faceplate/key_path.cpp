@@ -28,7 +28,7 @@ void key_click() {
 
 // By TCalcMode.
 constexpr const TKeyMap* key_maps[] = {&base_key_map,     &comp_key_map, &stats_key_map,  &program_key_map,
-                                       &periodic_key_map, &plot_key_map, &matrix_key_map, &list_key_map};
+                                       &periodic_key_map, &plot_key_map, &table_key_map, &table_key_map};
 
 int unknown_mode(bool& needs_repaint) {
   platform().show_message("Invalid calculator mode", "key_pressed_decoder");

@@ -1,4 +1,4 @@
-// The key maps of MATRIX_MODE and LIST_MODE: one screen, but for the keys that a list has no use for.
+// The key map of MATRIX_MODE and LIST_MODE: one screen, on which a list has no use for the keys of columns.
 
 #include <iterator>
 
@@ -52,7 +52,9 @@ int scroll_rows(int rows) {
   return repaint();
 }
 
+// A list has one column.
 int scroll_columns(int columns) {
+  if (!shows_matrix()) return KEY_DONE;
   scroll_matrix_columns(columns);
   return repaint();
 }
@@ -88,7 +90,7 @@ int choose_cell(int key) {
   return repaint();
 }
 
-constexpr TKeyRow matrix_rows[] = {
+constexpr TKeyRow rows[] = {
     {0, 5, action(press_table_tab)},
     {6, 6, action(enter_catalog_function, IDLE_ONLY)},
     {7, 7, action(evaluate_here, IDLE_ONLY)},
@@ -108,31 +110,10 @@ constexpr TKeyRow matrix_rows[] = {
     {21, 31, action(choose_variable)},
     {32, 71, action(choose_cell)},
 };
-static_assert(names_each_key(matrix_rows, 72));
-
-constexpr TKeyRow list_rows[] = {
-    {0, 5, action(press_table_tab)},
-    {6, 6, action(enter_catalog_function, IDLE_ONLY)},
-    {7, 7, action(evaluate_here, IDLE_ONLY)},
-    {8, 8, action(choose_size, IDLE_ONLY)},
-    {9, 9, action(enter_variable, IDLE_ONLY)},
-    {10, 10, action(evaluate_and_enter_here, IDLE_ONLY)},
-    {11, 12, none},  // a list has one column
-    {13, 13, action(page_up)},
-    {14, 14, action(page_down)},
-    {15, 16, none},
-    {17, 17, action(step_up)},
-    {18, 18, action(step_down)},
-    {19, 19, action(scroll_left)},
-    {20, 20, action(scroll_right)},
-    {21, 31, action(choose_variable)},
-    {32, 71, action(choose_cell)},
-};
-static_assert(names_each_key(list_rows, 72));
+static_assert(names_each_key(rows, 72));
 
 }  // namespace
 
-const TKeyMap matrix_key_map = {matrix_rows, std::size(matrix_rows)};
-const TKeyMap list_key_map = {list_rows, std::size(list_rows)};
+const TKeyMap table_key_map = {rows, std::size(rows)};
 
 }  // namespace zephyl

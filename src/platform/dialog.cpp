@@ -160,11 +160,14 @@ TControl picture_control(std::string label, TSurface picture) {
   return control;
 }
 
+TControl beside(TControl control) {
+  control.beside = true;
+  return control;
+}
+
 void add_ok_cancel(TDialog& dialog) {
   dialog.add(button_control("OK", BUTTON_DEFAULT));
-  TControl cancel = button_control("Cancel", BUTTON_CANCEL);
-  cancel.beside = true;
-  dialog.add(std::move(cancel));
+  dialog.add(beside(button_control("Cancel", BUTTON_CANCEL)));
 }
 
 void set_rows(TControl& control, std::vector<std::string> rows, int selected) {

@@ -125,6 +125,8 @@ TControl radio_control(std::string label, int group, bool checked);
 TControl button_control(std::string label, TButtonRole role = BUTTON_PLAIN);
 TControl slider_control(std::string label, int minimum, int maximum, int value);
 TControl picture_control(std::string label, TSurface picture);
+// The control, to the right of the one before it.
+TControl beside(TControl control);
 // "OK", the default, and "Cancel" beside it.
 void add_ok_cancel(TDialog& dialog);
 

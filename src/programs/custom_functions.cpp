@@ -102,11 +102,7 @@ bool begin_level() {
     return false;
   }
   TWaitingPart& waiting = run.waiting[run.waiting_count++];
-  waiting.part = run.part;
-  waiting.block_top = run.block_top;
-  waiting.gosub_top = run.gosub_top;
-  waiting.call_top = run.call_top;
-  waiting.call_base = run.call_base;
+  waiting.place = run;
   waiting.program_running = state.program_running;
   waiting.at_prompt = state.at_prompt;
   waiting.at_function_prompt = state.at_function_prompt;
@@ -126,11 +122,7 @@ void begin_part() {
 
 void end_level() {
   const TWaitingPart& waiting = run.waiting[--run.waiting_count];
-  run.part = waiting.part;
-  run.block_top = waiting.block_top;
-  run.gosub_top = waiting.gosub_top;
-  run.call_top = waiting.call_top;
-  run.call_base = waiting.call_base;
+  static_cast<TRunPlace&>(run) = waiting.place;
   state.program_running = waiting.program_running;
   state.at_prompt = waiting.at_prompt;
   state.at_function_prompt = waiting.at_function_prompt;

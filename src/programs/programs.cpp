@@ -27,8 +27,8 @@ bool running_program(TRunningProgram& running) {
   if (run.level == 0) return false;
   running.name = run.part.name;
   running.paused = state.at_prompt || state.key_wait;
-  // Behind the last statement it is still that one.
   const bool own = std::strcmp(program.name, run.part.name) == 0;  // not one that a statement has just loaded
+  // Behind the last statement it is still that one.
   const bool at_end = own && !running.paused && run.part.pc > 0 && run.part.pc == program.statement_count;
   running.statement = std::max(0, run.part.pc - (at_end ? 1 : 0));
   return true;

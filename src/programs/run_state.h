@@ -35,30 +35,30 @@ struct TRunningPart {
   int gosub_count = 0;
 };
 
-// One that waits for a function, with the stacks as it left them.
-struct TWaitingPart {
+// Where a run stands: its program and the tops of the stacks.
+struct TRunPlace {
   TRunningPart part;
   int block_top = 0;
   int gosub_top = 0;
   int call_top = 0;
-  int call_base = 0;
+  int call_base = 0;  // calls below it belong to those that wait for this function
+};
+
+// One that waits for a function, as it was left.
+struct TWaitingPart {
+  TRunPlace place;
   bool program_running = false;
   bool at_prompt = false;
   bool at_function_prompt = false;
   bool key_wait = false;
 };
 
-struct TRun {
+struct TRun : TRunPlace {
   int level = 0;  // run_level: 0 no program, 1 one from the keypad or a function, above 1 functions within
   bool key_run = false;  // the one of level 1 came from the keypad
-  TRunningPart part;
   TBlock blocks[BLOCK_LIMIT];
-  int block_top = 0;
   std::uint16_t gosubs[GOSUB_LIMIT];
-  int gosub_top = 0;
   TRunningPart calls[CALL_LIMIT];
-  int call_top = 0;
-  int call_base = 0;  // calls below it belong to those that wait for this function
   TWaitingPart waiting[NEST_LIMIT];
   int waiting_count = 0;
   char title[PROGRAM_NAME_LENGTH] = "";        // the program that came from the keypad

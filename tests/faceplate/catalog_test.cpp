@@ -19,11 +19,6 @@ namespace {
 
 class catalog : public calculator {
  protected:
-  catalog() {
-    reset_function_catalog();
-    reset_variable_catalog();
-  }
-
   void in_dialog(std::function<void(TDialog&)> act) { platform_.dialog_answers.push_back(std::move(act)); }
 
   // Chooses a function by group and listed text, and OK.

@@ -490,7 +490,7 @@ TEST_F(keys_of_all_modes, each_map_names_the_rows_of_its_table) {
   } rows[] = {{base_key_map, calculator_keys},    {comp_key_map, calculator_keys},
               {stats_key_map, calculator_keys},   {program_key_map, program_keys},
               {periodic_key_map, periodic_keys},  {plot_key_map, plot_keys},
-              {matrix_key_map, list_matrix_keys}, {list_key_map, list_matrix_keys}};
+              {table_key_map, list_matrix_keys}};
   for (const auto& row : rows) EXPECT_EQ(row.map.rows[row.map.count - 1].last + 1, row.table.count);
 }
 

@@ -10,11 +10,6 @@ namespace {
 
 using TLines = std::vector<std::vector<int>>;
 
-TControl beside(TControl control) {
-  control.beside = true;
-  return control;
-}
-
 }  // namespace
 
 TEST(dialog_plan, a_control_beside_another_shares_its_line) {

@@ -9,11 +9,6 @@ namespace zephyl {
 
 namespace {
 
-TControl beside(TControl control) {
-  control.beside = true;
-  return control;
-}
-
 TControl disabled(TControl control) {
   control.enabled = false;
   return control;

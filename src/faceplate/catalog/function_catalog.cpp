@@ -158,7 +158,6 @@ int select_function() {
   dialog.procedure = [](TDialog& open, const TDialogEvent& event) {
     if (event.kind == CONTROL_CHANGED && event.control == GROUPS) fill(open, "");
     if (event.kind == CONTROL_CHANGED && event.control == FUNCTIONS) show_help_of_row(open);
-    close_on_activation(open, event, FUNCTIONS);
   };
   if (!confirmed(dialog) || dialog[FUNCTIONS].selected < 0) return NO_FUNCTION_TOKEN;
   const std::string text = chosen_text(dialog);

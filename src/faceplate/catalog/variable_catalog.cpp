@@ -91,7 +91,6 @@ int select_system_variable() {
   dialog.procedure = [](TDialog& open, const TDialogEvent& event) {
     if (event.kind == CONTROL_CHANGED && event.control == GROUPS) fill(open, 0);
     if (event.kind == CONTROL_CHANGED && event.control == VARIABLES) show_help_of_row(open);
-    close_on_activation(open, event, VARIABLES);
   };
   if (!confirmed(dialog)) return NO_VARIABLE_TOKEN;
   const TCatalogRow* const row = chosen(dialog);

@@ -71,8 +71,7 @@ void add_boxes(TDialog& dialog) {
 void show_items_to_clear() {
   TDialog dialog(218, "Select Items to Clear");
   add_boxes(dialog);
-  add_ok_cancel(dialog);
-  if (!confirmed(dialog)) return;
+  if (!confirmed_with_ok(dialog)) return;
   for (int item = CLEAR_VARIABLES; item <= CLEAR_ALL_ITEMS; ++item)
     if (dialog[item - CLEAR_VARIABLES].checked) clear_items(item);
   platform().invalidate(false);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "faceplate/dialogs/running.h"
 #include "faceplate/dialogs/statement_rows.h"
 #include "platform/dialog.h"
 #include "programs/built_in_programs.h"
@@ -51,12 +52,13 @@ std::string selected_name(const TDialog& dialog) {
 bool select_program_to_edit(TEditChoice& choice) {
   TDialog dialog(152, "Select Program");
   dialog.add(list_control("Program Name:", {}));
-  dialog.add(combo_control("Action:", {"Edit Program", "New Program", "Copy Program", "Delete Program"}, last.action));
-  dialog.add(combo_control("Program Type:", {"Custom Program", "Built-in Program"}, last.built_in ? BUILT_IN : 0));
+  dialog.add(combo_control("Action:", {"Edit Program", "New Program", "Copy Program", "Delete Program"},
+                           last.action));
+  dialog.add(
+      combo_control("Program Type:", {"Custom Program", "Built-in Program"}, last.built_in ? BUILT_IN : 0));
   fill(dialog);
   dialog.procedure = [](TDialog& open, const TDialogEvent& event) {
     if (event.kind == CONTROL_CHANGED && event.control == TYPE) fill(open);
-    if (event.kind == CONTROL_ACTIVATED && event.control == NAME) open.close(0);
   };
   if (!confirmed_with_ok(dialog)) return false;
   choice.built_in = dialog[TYPE].selected == BUILT_IN;

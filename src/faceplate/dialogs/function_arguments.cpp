@@ -3,6 +3,7 @@
 #include <iterator>
 
 #include "engine/memory.h"
+#include "faceplate/dialogs/running.h"
 #include "faceplate/dialogs/statement_operands.h"
 #include "faceplate/dialogs/statement_rows.h"
 #include "programs/function_header.h"
@@ -51,10 +52,8 @@ void add_argument(TDialog& dialog, int argument) {
   TRows types;
   for (const TArgumentKind& row : kinds) types.emplace_back(row.type);
   dialog.add(combo_control("Arg " + std::to_string(argument + 1) + ":", std::move(types), kind));
-  TControl name = combo_control("Name " + std::to_string(argument + 1) + ":", kind_rows(kind),
-                                slot - kinds[kind].first_slot);
-  name.beside = true;
-  dialog.add(std::move(name));
+  dialog.add(beside(combo_control("Name " + std::to_string(argument + 1) + ":", kind_rows(kind),
+                                  slot - kinds[kind].first_slot)));
 }
 
 void enable_arguments(TDialog& dialog) {
@@ -77,7 +76,8 @@ void read_arguments(const TDialog& dialog) {
   arguments.count = dialog[ARGUMENT_COUNT_CONTROL].selected;
   std::string text;
   for (int argument = 0; argument < ARGUMENT_LIMIT; ++argument) {
-    const int slot = kinds[dialog[type_control(argument)].selected].first_slot + dialog[name_control(argument)].selected;
+    const int slot =
+        kinds[dialog[type_control(argument)].selected].first_slot + dialog[name_control(argument)].selected;
     arguments.slots[argument] = slot;
     if (argument < arguments.count) text += static_cast<char>(slot + FUNC_SLOT_OFFSET);
   }
@@ -88,7 +88,8 @@ void read_arguments(const TDialog& dialog) {
 
 bool ask_arguments() {
   TDialog dialog(162, "Custom Function Arguments");
-  dialog.add(combo_control("Argument Count:", {"0 (no arguments)", "1", "2", "3", "4", "5", "6"}, arguments.count));
+  dialog.add(
+      combo_control("Argument Count:", {"0 (no arguments)", "1", "2", "3", "4", "5", "6"}, arguments.count));
   for (int argument = 0; argument < ARGUMENT_LIMIT; ++argument) add_argument(dialog, argument);
   enable_arguments(dialog);
   dialog.procedure = handle_arguments;

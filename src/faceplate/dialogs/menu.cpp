@@ -107,7 +107,6 @@ void show_menu() {
   dialog.procedure = [=](TDialog& open, const TDialogEvent& event) {
     if (event.control != list) return;
     if (event.kind == CONTROL_CHANGED) open[description].text = menu_items[open[list].selected].description;
-    if (event.kind == CONTROL_ACTIVATED) open.close(0);
   };
   platform().run_dialog(dialog);
   if (dialog.result() == DIALOG_CANCELLED) return;

@@ -12,9 +12,10 @@ inline bool confirmed(TDialog& dialog) {
   return dialog.result() != DIALOG_CANCELLED;
 }
 
-// A double click on a row of a list is OK.
-inline void close_on_activation(TDialog& dialog, const TDialogEvent& event, int list) {
-  if (event.kind == CONTROL_ACTIVATED && event.control == list) dialog.close(0);
+// The same with OK and Cancel added as its last controls.
+inline bool confirmed_with_ok(TDialog& dialog) {
+  add_ok_cancel(dialog);
+  return confirmed(dialog);
 }
 
 }  // namespace zephyl

@@ -38,7 +38,6 @@ void show_expressions() {
   dialog.add(button_control("Cancel", BUTTON_CANCEL));
   dialog.procedure = [=](TDialog& open, const TDialogEvent& event) {
     if (event.kind == CONTROL_ACTIVATED && event.control == insert) open.close(INSERT_AT_CURSOR);
-    close_on_activation(open, event, list);
   };
   if (!confirmed(dialog)) return;
   last_row = dialog[list].selected;

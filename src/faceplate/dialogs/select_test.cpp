@@ -58,7 +58,6 @@ int choose_test() {
   dialog.procedure = [=](TDialog& open, const TDialogEvent& event) {
     if (event.kind == CONTROL_CHANGED && event.control == list)
       open[help].text = tests[open[list].selected].help;
-    close_on_activation(open, event, list);
   };
   if (!confirmed(dialog)) return -1;
   last_row = dialog[list].selected;

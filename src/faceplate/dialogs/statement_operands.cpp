@@ -1,4 +1,5 @@
 #include "faceplate/dialogs/statement_operands.h"
+#include "faceplate/dialogs/running.h"
 
 #include <string>
 #include <vector>
@@ -64,7 +65,8 @@ std::int16_t output_operand(int row) {
 
 bool ask_label() {
   TRows rows;
-  for (int label = 0; label < LABEL_COUNT; ++label) rows.push_back(std::string(1, static_cast<char>('A' + label)));
+  for (int label = 0; label < LABEL_COUNT; ++label)
+    rows.push_back(std::string(1, static_cast<char>('A' + label)));
   TDialog dialog(148, "Select Label");
   const int label = dialog.add(combo_control("Label:", std::move(rows), new_statement.label));
   if (!confirmed_with_ok(dialog)) return false;
@@ -75,12 +77,13 @@ bool ask_label() {
 bool ask_condition() {
   TDialog dialog(149, "Select Conditional");
   const int left = dialog.add(combo_control("Memory Variable 1:", scalar_rows({"Ans"}), new_statement.var0));
-  const int compare = dialog.add(
-      combo_control("Conditional:",
-                    {"= (equal to)", "<> (not equal to)", "< (less than)", "> (greater than)",
-                     ">= (greater than or equal to)", "<= (less than or equal to)"},
-                    new_statement.compare));
-  const int right = dialog.add(combo_control("Memory Variable 2:", scalar_rows({"ZERO", "Ans"}), new_statement.var1));
+  const int compare =
+      dialog.add(combo_control("Conditional:",
+                               {"= (equal to)", "<> (not equal to)", "< (less than)", "> (greater than)",
+                                ">= (greater than or equal to)", "<= (less than or equal to)"},
+                               new_statement.compare));
+  const int right =
+      dialog.add(combo_control("Memory Variable 2:", scalar_rows({"ZERO", "Ans"}), new_statement.var1));
   if (!confirmed_with_ok(dialog)) return false;
   new_statement.var0 = static_cast<std::int16_t>(dialog[left].selected);
   new_statement.compare = static_cast<std::int16_t>(dialog[compare].selected);
@@ -137,7 +140,8 @@ namespace {
 
 TControl function_control() {
   TRows rows;
-  for (int number = 1; number <= FUNCTION_COUNT; ++number) rows.push_back("Function " + std::to_string(number));
+  for (int number = 1; number <= FUNCTION_COUNT; ++number)
+    rows.push_back("Function " + std::to_string(number));
   return combo_control("Function:", std::move(rows), new_statement.func);
 }
 
@@ -171,12 +175,9 @@ bool ask_called_program() {
 
 int ask_menu_function() {
   TDialog dialog(175, "Select Menu Function");
-  const int row = dialog.add(
-      list_control("Menu Function:", {"Menu Display", "Menu Item", "Menu Title", "Menu Clear"}, last.menu_function));
+  const int row = dialog.add(list_control(
+      "Menu Function:", {"Menu Display", "Menu Item", "Menu Title", "Menu Clear"}, last.menu_function));
   dialog[row].lines = 4;
-  dialog.procedure = [=](TDialog& open, const TDialogEvent& event) {
-    if (event.kind == CONTROL_ACTIVATED && event.control == row) open.close(0);
-  };
   if (!confirmed_with_ok(dialog)) return -1;
   return last.menu_function = dialog[row].selected;
 }

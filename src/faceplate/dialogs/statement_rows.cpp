@@ -3,16 +3,9 @@
 #include <algorithm>
 #include <cstring>
 
-#include "platform/platform.h"
 #include "programs/editor.h"
 
 namespace zephyl {
-
-bool confirmed_with_ok(TDialog& dialog) {
-  add_ok_cancel(dialog);
-  platform().run_dialog(dialog);
-  return dialog.result() != DIALOG_CANCELLED;
-}
 
 void set_statement_text(const std::string& text) {
   const std::size_t length = std::min(text.size(), sizeof new_statement.text - 1);

@@ -1,11 +1,10 @@
-// What the dialogs of statements share: rows of variable names, and how they are run.
+// What the dialogs of statements share: rows of variable names, and the text of a statement.
 #pragma once
 
 #include <string>
 #include <vector>
 
 #include "engine/memory.h"
-#include "platform/dialog.h"
 
 namespace zephyl {
 
@@ -13,9 +12,6 @@ using TRows = std::vector<std::string>;
 
 constexpr int SCALAR_COUNT = SLOT_ALPHA + GREEK_COUNT;
 constexpr int FUNCTION_COUNT = 9;
-
-// Adds OK and Cancel and shows the dialog; false on Cancel.
-bool confirmed_with_ok(TDialog& dialog);
 
 // Cut to the room of a statement's text.
 void set_statement_text(const std::string& text);

@@ -45,9 +45,7 @@ void show_stats_rows() {
   TDialog dialog(169, "Stats List");
   const int table = dialog.add(table_control("", columns(), rows()));
   const int remove = dialog.add(button_control("Delete"));
-  TControl ok = button_control("OK", BUTTON_DEFAULT);
-  ok.beside = true;
-  dialog.add(ok);
+  dialog.add(beside(button_control("OK", BUTTON_DEFAULT)));
   dialog.procedure = [=](TDialog& open, const TDialogEvent& event) {
     if (event.kind == CONTROL_ACTIVATED && event.control == remove) delete_focused_row(open[table]);
   };

@@ -47,11 +47,7 @@ int choose(const TTableDialog& kind) {
   TDialog dialog(kind.id, kind.title);
   const int list = dialog.add(list_control("", texts(kind), last_row));
   dialog[list].lines = 12;
-  add_ok_cancel(dialog);
-  dialog.procedure = [=](TDialog& open, const TDialogEvent& event) {
-    close_on_activation(open, event, list);
-  };
-  if (!confirmed(dialog)) return -1;
+  if (!confirmed_with_ok(dialog)) return -1;
   last_row = dialog[list].selected;
   return token_of_row(kind, last_row);
 }

@@ -78,11 +78,6 @@ std::string shown_value(int field) { return field_text(variable_of(plot_variable
 
 // --- Building
 
-TControl beside(TControl control) {
-  control.beside = true;
-  return control;
-}
-
 void add_fields(TDialog& dialog, const std::string& name, std::initializer_list<const char*> parts) {
   for (const char* part : parts) dialog.add(edit_control(name + part, ""));
 }

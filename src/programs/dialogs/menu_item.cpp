@@ -22,10 +22,6 @@ int select_menu_item(const TMenu& items) {
   const int list = dialog.add(list_control("Menu Item:", {items.text, items.text + items.count}));
   dialog[list].lines = std::clamp(items.count, LEAST_LINES, MOST_LINES);
   add_ok_cancel(dialog);
-  // A row that is double-clicked is chosen.
-  dialog.procedure = [list](TDialog& self, const TDialogEvent& event) {
-    if (event.kind == CONTROL_ACTIVATED && event.control == list) accept_dialog(self);
-  };
   platform().run_dialog(dialog);
   return dialog.result() == DIALOG_CANCELLED ? DIALOG_CANCELLED : dialog[list].selected;
 }

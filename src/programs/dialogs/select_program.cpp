@@ -60,7 +60,6 @@ bool select_program(TDialog& dialog, TProgramChoice& last) {
   dialog.procedure = [&](TDialog& self, const TDialogEvent& event) {
     if (event.kind == CONTROL_CHANGED && event.control == controls.type)
       fill_names(self, controls, last.name);
-    if (event.kind == CONTROL_ACTIVATED && event.control == controls.name) accept_dialog(self);
   };
   platform().run_dialog(dialog);
   TProgramChoice chosen;

@@ -118,9 +118,8 @@ void show_histogram() {
   TDialog dialog(HISTOGRAM_DIALOG, "Histogram Plot");
   dialog.add(picture_control("Histogram Plot", histogram_picture()));
   dialog.add(combo_control("Bins:", bin_rows(), histogram.bin_count - 1));
-  dialog.add(button_control("<"));
-  dialog.add(button_control(">"));
-  dialog[PREVIOUS].beside = dialog[NEXT].beside = true;
+  dialog.add(beside(button_control("<")));
+  dialog.add(beside(button_control(">")));
   for (const TStatsPane& pane : stats_panes()) dialog.add(text_control(pane.heading, bin_info(pane)));
   dialog.add(button_control("OK", BUTTON_CANCEL));
   dialog.procedure = handle;

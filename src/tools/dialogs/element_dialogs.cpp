@@ -14,7 +14,7 @@ namespace {
 constexpr int INFORMATION_DIALOG = 177;
 constexpr int TABLE_DIALOG = 203;
 
-enum TInformationControl { FACTS, SELECT_CONSTANT, BACK };
+enum TInformationControl { FACTS, SELECT_CONSTANT };
 
 std::vector<std::string> fact_lines(int index) {
   std::vector<std::string> lines;
@@ -56,8 +56,7 @@ void show_element_information(int index) {
   facts.lines = ELEMENT_ROW_COUNT;
   dialog.add(std::move(facts));
   dialog.add(button_control("Select Constant", BUTTON_DEFAULT));
-  dialog.add(button_control("Back to Table", BUTTON_CANCEL));
-  dialog[BACK].beside = true;
+  dialog.add(beside(button_control("Back to Table", BUTTON_CANCEL)));
   enable_select(dialog, index);
   dialog.procedure = [index](TDialog& shown, const TDialogEvent& event) {
     if (event.kind == CONTROL_CHANGED) enable_select(shown, index);

@@ -30,11 +30,6 @@ void handle(TDialog& dialog, const TDialogEvent& event, stopwatch& watch) {
   show_state(dialog, watch);
 }
 
-TControl beside(TControl control) {
-  control.beside = true;
-  return control;
-}
-
 }  // namespace
 
 void show_stopwatch() {

@@ -94,11 +94,6 @@ void press(TDialog& dialog, int control) {
   if (control == SCHEDULE) open_schedule();
 }
 
-TControl beside(TControl control) {
-  control.beside = true;
-  return control;
-}
-
 }  // namespace
 
 void show_tvm_solver() {
