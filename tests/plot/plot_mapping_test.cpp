@@ -130,15 +130,22 @@ TEST(clipped_line, takes_the_largest_numbers) {
   clipped_line(surface, huge, 0, 0, -huge, BLACK);
 }
 
-TEST(clipped_line, survives_any_ends) {
+TEST(clipped_line, tells_of_any_ends_whether_it_painted) {
   std::mt19937 random(3);
   std::uniform_real_distribution<double> exponent(-3, 308), sign(-1, 1);
-  TSurface surface(PLOT_WIDTH, PLOT_HEIGHT);
+  const TSurface paper(PLOT_WIDTH, PLOT_HEIGHT);
+  int painted = 0;
   for (int i = 0; i < 20000; ++i) {
     double ends[4];
     for (double& end : ends) end = sign(random) * std::pow(10.0, exponent(random));
-    clipped_line(surface, ends[0], ends[1], ends[2], ends[3], BLACK);
+    TSurface surface = paper;
+    const bool drawn = clipped_line(surface, ends[0], ends[1], ends[2], ends[3], BLACK);
+    if (drawn || i % 20 == 0) {
+      ASSERT_EQ(drawn, ink_count(surface) > 0) << i;
+    }
+    painted += drawn;
   }
+  EXPECT_GT(painted, 0);
 }
 
 TEST(draw_dot, paints_one_pixel_of_the_plot) {
