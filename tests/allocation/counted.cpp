@@ -7,9 +7,13 @@ namespace {
 
 std::size_t requests = 0;
 
-void* counted_memory(std::size_t size) {
+void* counted_or_null(std::size_t size) noexcept {
   ++requests;
-  if (void* memory = std::malloc(size ? size : 1)) return memory;
+  return std::malloc(size ? size : 1);
+}
+
+void* counted_memory(std::size_t size) {
+  if (void* memory = counted_or_null(size)) return memory;
   throw std::bad_alloc();
 }
 
@@ -23,10 +27,14 @@ std::size_t heap_requests() { return requests; }
 
 void* operator new(std::size_t size) { return counted_memory(size); }
 void* operator new[](std::size_t size) { return counted_memory(size); }
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept { return counted_or_null(size); }
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept { return counted_or_null(size); }
 void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete[](void* memory) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }
+void operator delete(void* memory, const std::nothrow_t&) noexcept { std::free(memory); }
+void operator delete[](void* memory, const std::nothrow_t&) noexcept { std::free(memory); }
 
 // The linker turns calls of these functions towards here (--wrap).
 extern "C" {
