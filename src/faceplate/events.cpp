@@ -21,7 +21,9 @@
 #include "faceplate/screens.h"
 #include "faceplate/title.h"
 #include "numerics/random.h"
+#include "persistence/constant_dialogs.h"
 #include "persistence/constants.h"
+#include "persistence/conversion_dialog.h"
 #include "persistence/settings.h"
 #include "platform/platform.h"
 #include "plot/drawing.h"
@@ -55,6 +57,8 @@ void reset_all() {
   reset_editor();
   reset_statement_dialogs();
   reset_edit_program_dialog();
+  reset_constant_dialogs();
+  reset_conversion_dialog();
   histogram = {};
   forget_key_feedback();
 }
