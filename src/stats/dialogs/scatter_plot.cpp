@@ -101,10 +101,10 @@ TSurface scatter_picture() {
 void show_scatter_plot() {
   const std::string r = fit_text(STAT_CORRELATION);
   TDialog dialog(SCATTER_DIALOG, "Scatter Plot");
-  dialog.add(picture_control("Scatter Plot", scatter_picture()));
+  dialog.add(picture_control("", scatter_picture()));
   dialog.add(text_control("", "a=" + fit_text(STAT_SLOPE) + ", b=" + fit_text(STAT_INTERCEPT) + ", r=" + r));
   dialog.add(text_control("", std::string(regression_equation(settings.statsRegress)) + ", r=" + r));
-  dialog.add(button_control("OK", BUTTON_CANCEL));
+  dialog.add(button_control("OK", BUTTON_DEFAULT));
   platform().run_dialog(dialog);
 }
 

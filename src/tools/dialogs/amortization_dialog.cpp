@@ -46,7 +46,7 @@ void show_amortization_schedule() {
                                  std::move(rows));
   table.lines = 14;
   dialog.add(std::move(table));
-  dialog.add(button_control("Back to TVM Solver", BUTTON_CANCEL));
+  dialog.add(button_control("Back to TVM Solver", BUTTON_DEFAULT));
   platform().run_dialog(dialog);
 }
 

@@ -112,7 +112,9 @@ class TTableView : public QTableView {
   }
 
   QSize sizeHint() const override {
-    return view_size(*this, bounded_width(width_, *this), height_of(lines_));
+    const int width = bounded_width(width_, *this);
+    const int bar = width_ > width ? horizontalScrollBar()->sizeHint().height() : 0;
+    return view_size(*this, width, height_of(lines_) + bar);
   }
   QSize minimumSizeHint() const override { return {bounded_width(0, *this), height_of(std::min(lines_, 3))}; }
 
