@@ -26,6 +26,8 @@ namespace zephyl {
 
 namespace {
 
+constexpr int SMALLEST_FILE = 0;  // of the qualities of a PNG
+
 QString file_of(const QString& folder, const QString& name, int scale) {
   return folder + "/" + name + (scale == 1 ? "" : QString("@%1x").arg(scale)) + ".png";
 }
@@ -33,7 +35,7 @@ QString file_of(const QString& folder, const QString& name, int scale) {
 void write_pictures(const QString& folder, const QString& name, TDialog& dialog) {
   for (const int scale : {1, 2}) {
     const QString path = file_of(folder, name, scale);
-    if (!dialog_picture(dialog, scale).save(path))
+    if (!dialog_picture(dialog, scale).save(path, "PNG", SMALLEST_FILE))
       std::fprintf(stderr, "cannot write %s\n", qPrintable(path));
   }
 }

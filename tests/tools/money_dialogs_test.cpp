@@ -62,6 +62,29 @@ TEST_F(money_dialogs, a_field_that_can_not_be_read_keeps_the_old_value) {
   EXPECT_EQ(tvm_value(TVM_N), 24.0);
 }
 
+TEST_F(money_dialogs, a_comma_is_the_decimal_mark_only_where_it_is_set) {
+  set_tvm_value(TVM_PV, 7.0);
+  for (const int mark : {0, 1}) {
+    settings.decimalMark = mark;
+    in_solver([this](TDialog& dialog) {
+      set(dialog, "PV", "200,5");
+      press(dialog, "Exit");
+    });
+    EXPECT_EQ(tvm_value(TVM_PV), mark == 1 ? 200.5 : 7.0);
+  }
+}
+
+TEST_F(money_dialogs, a_number_is_decimal) {
+  set_tvm_value(TVM_PV, 7.0);
+  for (const char* text : {"0x10", "inf", "nan", "1e999", " "}) {
+    in_solver([this, text](TDialog& dialog) {
+      set(dialog, "PV", text);
+      press(dialog, "Exit");
+    });
+    EXPECT_EQ(tvm_value(TVM_PV), 7.0) << text;
+  }
+}
+
 TEST_F(money_dialogs, an_error_shows_in_a_box_and_is_cleared) {
   in_solver([this](TDialog& dialog) {
     set(dialog, "N", "10");

@@ -1,5 +1,6 @@
 // The dialog of the money solver: seven values as text, a choice of when payments are due, and a button for each unknown.
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -36,11 +37,12 @@ std::string field_text(double value) {
   return text;
 }
 
-// undefined_value for a text that is no number.
+// undefined_value for a text that is no number as the fields write it: a comma is the decimal mark only where it is set,
+// or "200,000" would be a loan of 200.
 double read_field(const std::string& text) {
   std::string point = text;
-  for (char& c : point)
-    if (c == ',') c = '.';
+  if (settings.decimalMark == 1) std::replace(point.begin(), point.end(), ',', '.');
+  if (point.find_first_not_of("0123456789+-.eE") != std::string::npos) return undefined_value;
   char* end = nullptr;
   const double value = std::strtod(point.c_str(), &end);
   const bool whole = end != point.c_str() && *end == 0 && std::isfinite(value);

@@ -6,6 +6,8 @@
 #include <QKeyEvent>
 #include <QListView>
 #include <QScrollBar>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
 #include <QStyledItemDelegate>
 #include <QTableView>
 #include <algorithm>
@@ -136,10 +138,27 @@ class TTableView : public QTableView {
   int width_ = 0;
 };
 
+// A row that is too long for it ends in dots.
+class TComboBox : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideRight, field.width() - LINE_AIR);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+  }
+};
+
 class TComboWidget : public TRowsWidget {
  public:
   TComboWidget(TDialogUser& user, int index, QWidget* parent)
-      : TRowsWidget(user, index), combo_(new QComboBox(parent)) {
+      : TRowsWidget(user, index), combo_(new TComboBox(parent)) {
     combo_->setModel(&model_);
     combo_->setMaxVisibleItems(COMBO_LINES);
     combo_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
