@@ -66,6 +66,8 @@ class calculator : public ::testing::Test {
 
   // Enters the text form and evaluates; the result line in plain text, or the error's message.
   std::string eval(const std::string& text);
+  // What the last evaluation left there.
+  std::string result() const;
   // The same, as numbers: the parts of Ans; fails the test on an error.
   double value(const std::string& text);
   double imaginary(const std::string& text);
