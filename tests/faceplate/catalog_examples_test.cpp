@@ -134,7 +134,7 @@ class catalog_examples : public face {
     EXPECT_EQ(entry_line.expression.tokens[place], row.token) << row.text;
     EXPECT_TRUE(insert_tokens(whole.tokens + place + 1, whole.count - place - 1));
     tap_key(EVALUATE_KEY);
-    return result();
+    return result_or_error();
   }
 
   // Enters a call of the money solver's functions, whose arguments the catalog fills with the solver's
@@ -148,7 +148,7 @@ class catalog_examples : public face {
     take_from_catalog(row);
     EXPECT_EQ(entry_line.expression.tokens[0], row.token) << row.text;
     tap_key(EVALUATE_KEY);
-    return result();
+    return result_or_error();
   }
 
   // Runs an example; where a row is given, the step that uses its token takes that from the catalog.

@@ -1,5 +1,9 @@
 #include "faceplate/catalog/catalog_text.h"
 
+#include <sys/stat.h>
+
+#include <cstdio>
+
 #include "engine/expression.h"
 #include "engine/state.h"
 #include "engine/tokens.h"
@@ -7,6 +11,8 @@
 #include "faceplate/catalog/variable_catalog.h"
 #include "faceplate/key_path.h"
 #include "support/calculator.h"
+#include "support/file_faults.h"
+#include "support/program_listing.h"
 
 namespace zephyl {
 
@@ -33,7 +39,8 @@ TEST_F(catalog, has_228_functions_in_14_groups) {
   const int counts[] = {23, 8, 8, 20, 9, 13, 29, 26, 25, 23, 19, 8, 7, 10};
   ASSERT_EQ(catalog_functions().groups.size(), 14u);
   for (int group = 0; group < 14; ++group)
-    EXPECT_EQ(catalog_group(catalog_functions(), group).size(), static_cast<std::size_t>(counts[group])) << group;
+    EXPECT_EQ(catalog_group(catalog_functions(), group).size(), static_cast<std::size_t>(counts[group]))
+        << group;
   EXPECT_EQ(catalog_functions().rows.size(), 228u);
 }
 
@@ -41,7 +48,8 @@ TEST_F(catalog, has_66_variables_in_8_groups) {
   const int counts[] = {11, 17, 6, 6, 6, 9, 8, 3};
   ASSERT_EQ(catalog_variables().groups.size(), 8u);
   for (int group = 0; group < 8; ++group)
-    EXPECT_EQ(catalog_group(catalog_variables(), group).size(), static_cast<std::size_t>(counts[group])) << group;
+    EXPECT_EQ(catalog_group(catalog_variables(), group).size(), static_cast<std::size_t>(counts[group]))
+        << group;
   EXPECT_EQ(variable_rows(ALL_VARIABLES_GROUP).size(), 66u);
 }
 
@@ -116,6 +124,37 @@ TEST_F(catalog, without_custom_functions_a_note_says_how_to_get_some) {
   });
   EXPECT_EQ(select_function(), NO_FUNCTION_TOKEN);
   EXPECT_EQ(entry(), "");
+}
+
+// Custom functions are files of the data folder.
+class catalog_of_custom_functions : public catalog {
+ protected:
+  catalog_of_custom_functions() {
+    platform_.folder = folder_.path();
+    ::mkdir(folder_.file("programs").c_str(), 0777);
+    make_file(path_, program_file_from_listing("cube", {"func(a)", "a^(3)"}));
+  }
+
+  const TTestFolder folder_;
+  const std::string path_ = folder_.file("programs/cube.prgm");
+};
+
+TEST_F(catalog_of_custom_functions, one_is_called_with_its_arguments) {
+  EXPECT_EQ(choose(CUSTOM_FUNCTION_GROUP, "cube(value)"), NO_FUNCTION_TOKEN);
+  EXPECT_EQ(entry_line.expression.tokens[0], TOKEN_FUNC1);
+  EXPECT_EQ(entry(), "cube(");
+}
+
+TEST_F(catalog_of_custom_functions, one_whose_file_has_vanished_is_called_without) {
+  in_dialog([this](TDialog& dialog) {
+    choose_row(dialog, 0, CUSTOM_FUNCTION_GROUP);
+    EXPECT_EQ(dialog[1].rows, std::vector<std::string>{"cube(value)"});
+    ASSERT_EQ(std::remove(path_.c_str()), 0);
+    accept_dialog(dialog);
+  });
+  EXPECT_EQ(select_function(), NO_FUNCTION_TOKEN);
+  EXPECT_EQ(entry_line.expression.tokens[0], TOKEN_FUNC2);
+  EXPECT_EQ(entry(), "cube(");
 }
 
 TEST_F(catalog, the_list_and_matrix_screens_open_on_their_functions) {

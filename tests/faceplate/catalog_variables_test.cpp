@@ -68,7 +68,7 @@ class catalog_of_variables : public face {
     EXPECT_EQ(entry_line.expression.count, 1) << row.text;
     EXPECT_EQ(entry_line.expression.tokens[0], row.token) << row.text;
     tap_key(EVALUATE_KEY);
-    EXPECT_FALSE(errors.error_flag) << row.text << ": " << result();
+    EXPECT_FALSE(errors.error_flag) << row.text << ": " << result_or_error();
     return answers.ans.re;
   }
 
@@ -79,7 +79,7 @@ class catalog_of_variables : public face {
     EXPECT_TRUE(enter_text(text.c_str(), error, sizeof error)) << error;
     take_from_catalog(group, row, WRITE);
     tap_key(EVALUATE_KEY);
-    return result();
+    return result_or_error();
   }
 
   void expect_reads_and_writes(int group, const TCatalogRow& row) {
@@ -95,7 +95,7 @@ class catalog_of_variables : public face {
     } else {
       const double other = read(group, row) == 2.0 ? 1.0 : 2.0;
       write(group, row, other == 2.0 ? "2" : "1");
-      EXPECT_FALSE(errors.error_flag) << row.text << ": " << result();
+      EXPECT_FALSE(errors.error_flag) << row.text << ": " << result_or_error();
       state.calcMode = COMP_MODE;
       EXPECT_EQ(read(group, row), row.text == "calcMode" ? 1.0 : other) << row.text;
     }
