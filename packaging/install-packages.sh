@@ -6,7 +6,7 @@ set -euo pipefail
 packages_for() {
   case "$1" in
     build) echo cmake ninja-build g++ zlib1g-dev libreadline-dev libfreetype-dev xfonts-base xfonts-terminus ;;
-    window) echo qt6-base-dev ;;
+    window) echo qt6-base-dev cmark-gfm ;;
     wayland) echo qt6-wayland ;;
     tests) echo libgtest-dev libgsl-dev libboost-math-dev libeigen3-dev libpng-dev giflib-tools ;;
     bench) echo libbenchmark-dev libmuparser-dev libgif-dev libeigen3-dev libgsl-dev libboost-math-dev ;;
