@@ -18,7 +18,8 @@ std::string synopsis(const TUsage& usage) {
 }
 
 bool refuse(const TUsage& usage, const std::string& word) {
-  std::fprintf(stderr, "%s: unknown argument %s\nusage: %s\n", usage.program, word.c_str(), synopsis(usage).c_str());
+  std::fprintf(stderr, "%s: unknown argument %s\nusage: %s\n", usage.program, word.c_str(),
+               synopsis(usage).c_str());
   return false;
 }
 

@@ -9,7 +9,8 @@
 
 namespace {
 
-constexpr zephyl::TUsage USAGE = {"zephyl-console", "Computes the expressions that it reads, a line each.", ""};
+constexpr zephyl::TUsage USAGE = {"zephyl-console", "Computes the expressions that it reads, a line each.",
+                                  ""};
 
 }  // namespace
 

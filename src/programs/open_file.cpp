@@ -40,11 +40,13 @@ bool begins_as_state(const std::string& line) {
 
 void open_state(const fs::path& path) {
   TLineReader lines(path.string());
-  if (!begins_as_state(lines.read_line())) return complain(quoted(path.filename().string()) + " is no state file.");
+  if (!begins_as_state(lines.read_line()))
+    return complain(quoted(path.filename().string()) + " is no state file.");
   load_state(path.c_str());
 }
 
-// Reads it as a run would, and leaves the program in memory alone. A message of its own tells of a later release.
+// Reads it as a run would, and leaves the program in memory alone. A message of its own tells of a later
+// release.
 bool reads_as_program(const std::string& path) {
   const TProgram before = program;
   TLineReader lines(path);

@@ -108,7 +108,9 @@ TEST_F(opened_files, the_users_own_file_may_be_opened) {
 }
 
 TEST_F(opened_files, what_is_no_program_is_not_added) {
-  for (const std::string content : {"", "\r\n", "hello\r\n", "N: One\r\nV: 2.7A\r\nX: 1\r\n", "\x7F" "ELF"}) {
+  for (const std::string content : {"", "\r\n", "hello\r\n", "N: One\r\nV: 2.7A\r\nX: 1\r\n",
+                                    "\x7F"
+                                    "ELF"}) {
     open("One.prgm", content);
     EXPECT_EQ(message(), "Error | \"One.prgm\" is no program.");
     EXPECT_FALSE(program_exists("One"));
@@ -127,12 +129,16 @@ TEST_F(opened_files, a_program_of_a_later_release_is_refused_without_an_error_th
 TEST_F(opened_files, a_name_that_no_statement_can_hold_is_refused) {
   const std::string longest(24, 'a'), longer(25, 'a');
   open(longer + ".prgm", ONE);
-  EXPECT_EQ(message(), "Error | \"" + longer +
-                           "\" can't be the name of a program: give the file one of up to 24 letters, digits and signs.");
+  EXPECT_EQ(
+      message(),
+      "Error | \"" + longer +
+          "\" can't be the name of a program: give the file one of up to 24 letters, digits and signs.");
   EXPECT_FALSE(program_exists(longer));
   open(longest + ".prgm", ONE);
   EXPECT_TRUE(program_exists(longest));
-  for (const std::string name : {" One", "Gr\xC3\xB6\xC3\x9F" "e"}) {
+  for (const std::string name : {" One",
+                                 "Gr\xC3\xB6\xC3\x9F"
+                                 "e"}) {
     open(name + ".prgm", ONE);
     EXPECT_FALSE(program_exists(name));
   }

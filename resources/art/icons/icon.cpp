@@ -40,7 +40,8 @@ void fill_round(TCanvas& canvas, const TPart& part, double radius, TColour top, 
     for (int x = 0; x < canvas.width(); ++x) {
       const double px = (x + 0.5) / FINE, py = (y + 0.5) / FINE;
       if (px < part.left || px > part.right || py < part.top || py > part.bottom) continue;
-      const double dx = beyond(px, part.left, part.right, radius), dy = beyond(py, part.top, part.bottom, radius);
+      const double dx = beyond(px, part.left, part.right, radius),
+                   dy = beyond(py, part.top, part.bottom, radius);
       if (dx * dx + dy * dy <= radius * radius)
         canvas.set(x, y, mix(top, bottom, (py - part.top) / part.height()));
     }
@@ -87,7 +88,8 @@ void draw_body(TCanvas& canvas, const TPlan& plan) {
   const TSkin& colours = skin(COLOURFUL);
   const double radius = plan.size * 0.11, rim = std::max(0.75, plan.size / 64.0);
   fill_round(canvas, plan.body, radius, RIM, RIM);
-  fill_round(canvas, inside(plan.body, rim), radius - rim, mix(colours.shell_top, 0xFFFFFF, 0.35), colours.shell_bottom);
+  fill_round(canvas, inside(plan.body, rim), radius - rim, mix(colours.shell_top, 0xFFFFFF, 0.35),
+             colours.shell_bottom);
   fill_round(canvas, inside(plan.body, 2 * rim), radius - 2 * rim, mix(colours.shell_top, 0xFFFFFF, 0.08),
              colours.shell_bottom);
 }
@@ -123,18 +125,21 @@ void draw_cap(TCanvas& canvas, const TPlan& plan, const TPart& key, const TCapCo
   const double radius = plan.size < 32 ? 0.4 : plan.size * 0.022;
   const bool has_edges = plan.size >= 48;
   const double edge = plan.size / 96.0;
-  if (has_edges) fill_round(canvas, {key.left, key.top + edge, key.right, key.bottom + edge}, radius, RIM, RIM);
+  if (has_edges)
+    fill_round(canvas, {key.left, key.top + edge, key.right, key.bottom + edge}, radius, RIM, RIM);
   fill_round(canvas, key, radius, colours.light, colours.shade);
   const double inset = has_edges ? edge : 0;
   fill_round(canvas, inside(key, inset), radius, colours.top, colours.bottom);
 }
 
 void draw_keys(TCanvas& canvas, const TPlan& plan) {
-  const double width = (plan.keys.width() + plan.gap) / plan.columns, height = (plan.keys.height() + plan.gap) / plan.rows;
+  const double width = (plan.keys.width() + plan.gap) / plan.columns,
+               height = (plan.keys.height() + plan.gap) / plan.rows;
   for (int row = 0; row < plan.rows; ++row)
     for (int column = 0; column < plan.columns; ++column) {
       const double left = plan.keys.left + column * width, top = plan.keys.top + row * height;
-      draw_cap(canvas, plan, {left, top, left + width - plan.gap, top + height - plan.gap}, cap_at(plan, row, column));
+      draw_cap(canvas, plan, {left, top, left + width - plan.gap, top + height - plan.gap},
+               cap_at(plan, row, column));
     }
 }
 

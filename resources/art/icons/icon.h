@@ -1,5 +1,5 @@
-// The program's icon: the calculator's front, simplified for each size. Keys and display lie on whole pixels at every size;
-// smooth are only corners and the curve.
+// The program's icon: the calculator's front, simplified for each size. Keys and display lie on whole pixels
+// at every size; smooth are only corners and the curve.
 #pragma once
 
 #include <cstdint>

@@ -68,7 +68,8 @@ std::string installed_folder(const std::string& executable_folder) {
 
 std::string data_folder_of(const std::string& executable_folder) {
   const bool keeps_its_own = installed_folder(executable_folder).empty();
-  if (keeps_its_own && is_folder(executable_folder) && is_writable(executable_folder)) return executable_folder;
+  if (keeps_its_own && is_folder(executable_folder) && is_writable(executable_folder))
+    return executable_folder;
   const std::string users = user_folder();
   return is_folder(users) && is_writable(users) ? users : ".";
 }
