@@ -23,7 +23,8 @@ class programs : public ::testing::Test {
  protected:
   TOutcome run(const std::string& program, const std::string& input, const std::string& arguments = "") {
     std::ofstream(folder_ / "input") << input;
-    const std::string command = "cd '" + folder_.string() + "' && '" + program + "' " + arguments + " <input 2>&1";
+    const std::string command =
+        "cd '" + folder_.string() + "' && '" + program + "' " + arguments + " <input 2>&1";
     TOutcome outcome;
     std::FILE* pipe = popen(command.c_str(), "r");
     for (int c = std::getc(pipe); c != EOF; c = std::getc(pipe)) outcome.output += static_cast<char>(c);
@@ -31,7 +32,8 @@ class programs : public ::testing::Test {
     return outcome;
   }
   TOutcome script(const std::string& input) { return run(ZEPHYL_SCRIPT, input); }
-  // Its data folder is its own folder, so it runs as a copy beside the input: what another run has kept must not show here.
+  // Its data folder is its own folder, so it runs as a copy beside the input: what another run has kept must
+  // not show here.
   TOutcome console(const std::string& input) {
     const std::filesystem::path copy = folder_ / "zephyl-console";
     if (!std::filesystem::exists(copy)) std::filesystem::copy_file(ZEPHYL_CONSOLE, copy);
@@ -134,7 +136,8 @@ TEST_F(programs, each_tells_its_options) {
   for (const std::string& program : PROGRAMS) {
     if (program.empty()) continue;
     const TOutcome outcome = run(program, "", "--help");
-    EXPECT_NE(outcome.output.find("\nusage: " + name_of(program) + " [--version] [--help]"), std::string::npos);
+    EXPECT_NE(outcome.output.find("\nusage: " + name_of(program) + " [--version] [--help]"),
+              std::string::npos);
     EXPECT_EQ(outcome.status, 0);
   }
 }
@@ -148,8 +151,10 @@ TEST_F(programs, an_argument_that_is_none_of_theirs_is_refused) {
     }
   }
   if (std::string(ZEPHYL_WINDOW_PROGRAM).empty()) return;
-  const TOutcome window = run("env' 'QT_QPA_PLATFORM=offscreen' '" ZEPHYL_WINDOW_PROGRAM, "", "--no-such-option");
-  EXPECT_NE(window.output.find("zephyl: unknown argument --no-such-option"), std::string::npos) << window.output;
+  const TOutcome window =
+      run("env' 'QT_QPA_PLATFORM=offscreen' '" ZEPHYL_WINDOW_PROGRAM, "", "--no-such-option");
+  EXPECT_NE(window.output.find("zephyl: unknown argument --no-such-option"), std::string::npos)
+      << window.output;
   EXPECT_EQ(window.status, 2);
 }
 
