@@ -3,9 +3,13 @@
 
 #include <string>
 
+#include "persistence/text_file.h"
 #include "programs/program.h"
 
 namespace zephyl {
+
+// Bytes of a description as it is stored: a longer line, "Z: " with it, would end the file.
+constexpr std::size_t STORED_DESCRIPTION_LIMIT = LINE_LIMIT - 1 - 3;
 
 // The codes that the keys of program edit give, and the statement of each; a code above 100 is that of a shifted key.
 enum TStatementCode {
@@ -65,7 +69,8 @@ void take_expression_back();
 
 // Has the description been put in already? Then its key edits it.
 bool has_description();
-// Puts a stored description into the program, and its statement if it isn't there.
+// Puts a stored description into the program, and its statement if it isn't there. Of a longer one than
+// STORED_DESCRIPTION_LIMIT so much as fits.
 void set_description(const std::string& stored);
 
 // --- What the list shows
