@@ -39,7 +39,7 @@ class TRowPen {
   }
   void put(const TBitmap& glyph) {
     if (used_ + glyph.width > ROW_WIDTH) {
-      if (!wraps_) return;
+      if (!wraps_) return cut();
       next_row();
     }
     const int y = LIST_TOP + row_ * ROW_HEIGHT;
@@ -54,6 +54,9 @@ class TRowPen {
     ++rows_used_;
     used_ = 0;
   }
+
+  // A narrower glyph behind the one that is left out would look like the end of the text.
+  void cut() { used_ = ROW_WIDTH; }
 
   TSurface* surface_;
   int row_;
