@@ -1,9 +1,13 @@
 // The keys of the program editor: what each adds, what it asks, and when it refuses.
 
+#include <algorithm>
+#include <random>
+
 #include "engine/errors.h"
 #include "engine/expression.h"
 #include "engine/state.h"
 #include "faceplate/alpha_entry.h"
+#include "faceplate/display.h"
 #include "faceplate/program_editor.h"
 #include "programs/editor.h"
 #include "programs/program.h"
@@ -66,6 +70,8 @@ const TEditorKey editor_keys[] = {
 
 bool asks(const TEditorKey& row) { return !row.dialogs.empty() || !row.text.empty(); }
 bool is_description(const TEditorKey& row) { return row.code == CODE_DESCRIPTION; }
+
+bool is_function_listing(const TListing& lines) { return !lines.empty() && lines[0].compare(0, 5, "func(") == 0; }
 
 class program_editor_keys : public program_editor {
  protected:
@@ -382,9 +388,12 @@ TEST_F(program_editor_keys, an_expression_that_was_added_is_no_longer_being_writ
   type("5+");
   EXPECT_TRUE(entry_line.cursor_shown);
   edit("Work");
+  const TRect line = {LINE_LEFT, ENTRY_LINE_Y, LINE_RIGHT, ENTRY_LINE_Y + LINE_HEIGHT - 1};
+  const std::vector<TColour> with_cursor = pixels(line);
   tap_key(EXPRESSION_KEY);
   EXPECT_EQ(listing(), TListing{"5+"});
   EXPECT_FALSE(entry_line.cursor_shown);
+  EXPECT_NE(pixels(line), with_cursor);
   leave();
   EXPECT_EQ(entry(), "5+");
   type("8");
@@ -454,6 +463,44 @@ TEST_F(program_editor_keys, the_delete_key_takes_the_line_of_the_cursor) {
   EXPECT_EQ(program.cursor, 0);
   tap_keys({4, 4});
   EXPECT_EQ(listing(), TListing{});
+}
+
+// Whatever keys are tapped and however their dialogs are answered, the program can be shown, and comes back from
+// its file as it was.
+TEST_F(program_editor_keys, any_keys_make_a_program_that_can_be_read_again) {
+  std::mt19937 random(20240101);
+  const auto below = [&random](std::size_t limit) { return static_cast<int>(random() % limit); };
+  const TAnswer somehow = [&](TDialog& dialog) {
+    for (int control = 0; control < dialog.count(); ++control) {
+      if (!dialog[control].rows.empty()) choose_row(dialog, control, below(dialog[control].rows.size()));
+      set_checked(dialog, control, below(2) == 0);
+      set_text(dialog, control, std::string(static_cast<std::size_t>(below(1200)), "~\na\r"[below(4)]));
+    }
+    if (below(4) > 0) accept_dialog(dialog);
+  };
+  for (int round = 0; round < 6; ++round) {
+    make("R" + std::to_string(round));
+    for (int i = 0; i < 150; ++i) {
+      platform_.dialog_answers.assign(3, somehow);
+      tap_key(1 + below(17));  // all but the run key and the tabs
+      if (state.alpha_active) type(below(5) == 0 ? "\x1B" : "Some ~ text\r\x1B");
+      ASSERT_FALSE(state.alpha_active);
+      ASSERT_LE(program.statement_count, STATEMENT_LIMIT);
+      ASSERT_TRUE(program.cursor >= 0 && program.cursor <= program.statement_count);
+      ASSERT_TRUE(program.top >= 0 && program.top <= program.cursor);
+    }
+    state.blue_shift = false;
+    platform_.dialog_answers.clear();
+    const TListing lines = listing();
+    const std::string description = program.description;
+    leave();
+    restart(folder_.path());
+    edit("R" + std::to_string(round) + (is_function_listing(lines) ? "(" : ""));
+    EXPECT_EQ(listing(), lines);
+    EXPECT_EQ(program.description, description);
+    leave();
+    eval("1+2");
+  }
 }
 
 TEST_F(program_editor_keys, an_error_of_the_calculator_does_not_disturb_the_list) {

@@ -1,5 +1,7 @@
 // The list of statements on the screen: rows, wrapping, marks, and the statement under the pen.
 
+#include <algorithm>
+
 #include "engine/state.h"
 #include "faceplate/display.h"
 #include "faceplate/program_editor.h"

@@ -1,5 +1,6 @@
 // Into the program editor and out of it: its dialog, what can't be opened, and what is saved.
 
+#include <algorithm>
 #include <cstring>
 
 #include "engine/errors.h"
