@@ -24,7 +24,8 @@ constexpr int TAP_LEFT = 6;
 constexpr int TAP_RIGHT = 232;
 constexpr int ROW_WIDTH = 200;
 
-// Writes glyphs from the left of a row and, where they wrap, on in the next one. Without a surface it only measures.
+// Writes glyphs from the left of a row and, where they wrap, on in the next one. Without a surface it only
+// measures.
 class TRowPen {
  public:
   TRowPen(TSurface* surface, int row) : surface_(surface), row_(row) {}

@@ -64,7 +64,8 @@ bool description_may_stand() {
   const bool behind_func = program.cursor == 1 && stands(0, STATEMENT_FUNC);
   if (first || behind_func) return true;
   return refuse(
-      "A program description statement must appear on the first line of a program or the second line of a program if "
+      "A program description statement must appear on the first line of a program or the second line of a "
+      "program if "
       "a function statement is on the first line.");
 }
 
@@ -75,17 +76,20 @@ bool func_may_stand() {
 bool other_may_stand() {
   if (program.cursor == 0 && stands(0, STATEMENT_DESCRIPTION))
     return refuse(
-        "Can't add statement here. The program description statement must appear on the first line of a program.");
+        "Can't add statement here. The program description statement must appear on the first line of a "
+        "program.");
   if (program.cursor == 1 && stands(0, STATEMENT_FUNC) && stands(1, STATEMENT_DESCRIPTION))
     return refuse(
-        "Can't add statement here. The function statement and program description statement must appear on the first "
+        "Can't add statement here. The function statement and program description statement must appear on "
+        "the first "
         "two lines of a program.");
   return true;
 }
 
 bool may_stand(int code) {
   if (program.cursor == 0 && code != CODE_FUNC && stands(0, STATEMENT_FUNC))
-    return refuse("Can't add statement here. The function statement must appear on the first line of a program.");
+    return refuse(
+        "Can't add statement here. The function statement must appear on the first line of a program.");
   if (code == CODE_FUNC) return (program.cursor != 1 || other_may_stand()) && func_may_stand();
   return code == CODE_DESCRIPTION ? description_may_stand() : other_may_stand();
 }
@@ -127,8 +131,8 @@ ProgramStatement statement_from(int code) {
     statement.label = new_statement.label;
   if (uses({STATEMENT_IN_FUNCTION, STATEMENT_FUNCTION})) statement.func = new_statement.func;
   if (uses({STATEMENT_OUT})) statement.pause = new_statement.pause;
-  if (uses({STATEMENT_CALL, STATEMENT_IN, STATEMENT_OUT, STATEMENT_TEXT, STATEMENT_IN_FUNCTION, STATEMENT_FUNC,
-            STATEMENT_ERROR, STATEMENT_MENU_ITEM, STATEMENT_MENU_TITLE}))
+  if (uses({STATEMENT_CALL, STATEMENT_IN, STATEMENT_OUT, STATEMENT_TEXT, STATEMENT_IN_FUNCTION,
+            STATEMENT_FUNC, STATEMENT_ERROR, STATEMENT_MENU_ITEM, STATEMENT_MENU_TITLE}))
     std::memcpy(statement.text, new_statement.text, sizeof statement.text);
   if (code == CODE_EXPRESS) take_entry_line(statement);
   return statement;
@@ -168,10 +172,14 @@ bool unsupported_in_functions(const ProgramStatement& statement) {
 
 void note_unsupported_statements() {
   const ProgramStatement* const first = program.statements;
-  if (!is_function_program() || std::none_of(first, first + program.statement_count, unsupported_in_functions)) return;
+  if (!is_function_program() ||
+      std::none_of(first, first + program.statement_count, unsupported_in_functions))
+    return;
   platform().show_message(
-      "The program statements Call, In, In f(), Rtn call, Text, and Menu statements are not supported in a custom "
-      "function. The Out statement is supported for saving values globally but the 'Pause?' and Text 'Label?' options "
+      "The program statements Call, In, In f(), Rtn call, Text, and Menu statements are not supported in a "
+      "custom "
+      "function. The Out statement is supported for saving values globally but the 'Pause?' and Text "
+      "'Label?' options "
       "are ignored.",
       "Program Note");
 }

@@ -20,8 +20,9 @@ constexpr int STOP_KEY = 17;
 // False if no row begins so.
 bool choose_row_that_begins(TDialog& dialog, int control, const std::string& head) {
   const TListing& rows = dialog[control].rows;
-  const auto found = std::find_if(rows.begin(), rows.end(),
-                                  [&](const std::string& row) { return row.compare(0, head.size(), head) == 0; });
+  const auto found = std::find_if(rows.begin(), rows.end(), [&](const std::string& row) {
+    return row.compare(0, head.size(), head) == 0;
+  });
   return found != rows.end() && choose_row(dialog, control, static_cast<int>(found - rows.begin()));
 }
 
@@ -49,7 +50,8 @@ void program_editor::choose(TProgramAction action, const std::string& name, bool
     ASSERT_EQ(dialog.id(), 152);
     choose_row(dialog, find_control(dialog, "Program Type"), built_in ? 1 : 0);
     choose_row(dialog, find_control(dialog, "Action"), action);
-    ASSERT_TRUE(name.empty() || choose_row_that_begins(dialog, find_control(dialog, "Program Name"), name)) << name;
+    ASSERT_TRUE(name.empty() || choose_row_that_begins(dialog, find_control(dialog, "Program Name"), name))
+        << name;
     accept_dialog(dialog);
   });
   tap_key((state.calcMode == PROGRAM_EDIT_MODE ? EDITOR_FIRST_TAB : CALCULATOR_FIRST_TAB) + TAB_PROGRAMS);

@@ -97,7 +97,8 @@ TEST_F(statement_dialogs, six_arguments_of_all_types) {
   leave();
   TFunctionHeader header;
   EXPECT_EQ(read_function_header("Work", header), 6);
-  const int slots[ARGUMENTS] = {SLOT_ALPHA + 27, SLOT_LIST_A + 9, SLOT_MATRIX_A, SLOT_F1 + 8, SLOT_STR1 + 8, SLOT_R0};
+  const int slots[ARGUMENTS] = {SLOT_ALPHA + 27, SLOT_LIST_A + 9, SLOT_MATRIX_A,
+                                SLOT_F1 + 8,     SLOT_STR1 + 8,   SLOT_R0};
   for (int argument = 0; argument < ARGUMENTS; ++argument) EXPECT_EQ(header.slots[argument], slots[argument]);
 }
 

@@ -20,8 +20,8 @@ constexpr int FUNC_KEY = 7;  // with the blue shift
 constexpr int EXPRESSION_KEY = 16;
 constexpr int MENU_KEY = 17;  // with the blue shift
 
-// A key that adds a statement, the rows that are chosen in its dialogs, the boxes that are ticked, and what is
-// written after them.
+// A key that adds a statement, the rows that are chosen in its dialogs, the boxes that are ticked, and what
+// is written after them.
 struct TEditorKey {
   int key;
   bool blue;
@@ -71,7 +71,9 @@ const TEditorKey editor_keys[] = {
 bool asks(const TEditorKey& row) { return !row.dialogs.empty() || !row.text.empty(); }
 bool is_description(const TEditorKey& row) { return row.code == CODE_DESCRIPTION; }
 
-bool is_function_listing(const TListing& lines) { return !lines.empty() && lines[0].compare(0, 5, "func(") == 0; }
+bool is_function_listing(const TListing& lines) {
+  return !lines.empty() && lines[0].compare(0, 5, "func(") == 0;
+}
 
 class program_editor_keys : public program_editor {
  protected:
@@ -245,8 +247,9 @@ TEST_F(program_editor_keys, nothing_but_arguments_stands_before_those_of_a_funct
   select_statement(0);
   for (const TEditorKey& row : editor_keys)
     if (row.code != CODE_FUNC)
-      expect_refused(
-          row, "Error | Can't add statement here. The function statement must appear on the first line of a program.");
+      expect_refused(row,
+                     "Error | Can't add statement here. The function statement must appear on the first line "
+                     "of a program.");
 }
 
 TEST_F(program_editor_keys, only_a_function_statement_stands_before_a_description) {
@@ -254,9 +257,10 @@ TEST_F(program_editor_keys, only_a_function_statement_stands_before_a_descriptio
   select_statement(0);
   for (const TEditorKey& row : editor_keys)
     if (row.code != CODE_FUNC && !is_description(row))
-      expect_refused(row,
-                     "Error | Can't add statement here. The program description statement must appear on the first "
-                     "line of a program.");
+      expect_refused(
+          row,
+          "Error | Can't add statement here. The program description statement must appear on the first "
+          "line of a program.");
 }
 
 TEST_F(program_editor_keys, nothing_stands_between_a_function_statement_and_its_description) {
@@ -266,9 +270,10 @@ TEST_F(program_editor_keys, nothing_stands_between_a_function_statement_and_its_
   select_statement(1);
   for (const TEditorKey& row : editor_keys)
     if (!is_description(row))
-      expect_refused(row,
-                     "Error | Can't add statement here. The function statement and program description statement "
-                     "must appear on the first two lines of a program.");
+      expect_refused(
+          row,
+          "Error | Can't add statement here. The function statement and program description statement "
+          "must appear on the first two lines of a program.");
 }
 
 TEST_F(program_editor_keys, arguments_and_descriptions_belong_on_the_first_lines) {
@@ -277,9 +282,10 @@ TEST_F(program_editor_keys, arguments_and_descriptions_belong_on_the_first_lines
     if (row.code == CODE_FUNC)
       expect_refused(row, "Error | A function statement must appear on the first line of a program.");
     if (is_description(row))
-      expect_refused(row,
-                     "Error | A program description statement must appear on the first line of a program or the second "
-                     "line of a program if a function statement is on the first line.");
+      expect_refused(
+          row,
+          "Error | A program description statement must appear on the first line of a program or the second "
+          "line of a program if a function statement is on the first line.");
   }
 }
 
@@ -330,8 +336,7 @@ class built_in_editor : public program_editor_keys {
 };
 
 TEST_F(built_in_editor, keys_that_add_or_delete_show_the_note) {
-  for (const TEditorKey& row : editor_keys)
-    expect_refused(row, "Note | A built-in program can't be edited");
+  for (const TEditorKey& row : editor_keys) expect_refused(row, "Note | A built-in program can't be edited");
   tap_key(4);
   EXPECT_EQ(message(), "Note | A built-in program can't be edited");
   EXPECT_EQ(program.statement_count, 5);
@@ -465,8 +470,8 @@ TEST_F(program_editor_keys, the_delete_key_takes_the_line_of_the_cursor) {
   EXPECT_EQ(listing(), TListing{});
 }
 
-// Whatever keys are tapped and however their dialogs are answered, the program can be shown, and comes back from
-// its file as it was.
+// Whatever keys are tapped and however their dialogs are answered, the program can be shown, and comes back
+// from its file as it was.
 TEST_F(program_editor_keys, any_keys_make_a_program_that_can_be_read_again) {
   std::mt19937 random(20240101);
   const auto below = [&random](std::size_t limit) { return static_cast<int>(random() % limit); };

@@ -68,7 +68,8 @@ TEST_F(program_list, every_kind_of_statement) {
 }
 
 TEST_F(program_list, expressions_wrap_between_tokens) {
-  open({"1->A", WRAPPED, "fnInt(sin(x)*cos(x),x,0,(pi))+sqRt(arcsin(0.5))*listSum({1,2,3,4,5,6})->B", "stop"});
+  open(
+      {"1->A", WRAPPED, "fnInt(sin(x)*cos(x),x,0,(pi))+sqRt(arcsin(0.5))*listSum({1,2,3,4,5,6})->B", "stop"});
   expect_picture("program_list_wrapped", screen());
   for (int row = 0; row < 3; ++row) EXPECT_TRUE(text_in_row(row)) << row;
   EXPECT_FALSE(drawn_in({TEXT_RIGHT + 1, LIST_TOP, 232, LIST_TOP + LISTED_ROWS * ROW - 1}));
@@ -146,9 +147,9 @@ TEST_F(program_list, a_tap_selects_a_statement_within_the_edges_of_the_list) {
   open(stops(20));
   const struct {
     int x, y, cursor;
-  } taps[] = {{6, 42, 0},   {232, 42, 0},  {6, 58, 0},    {6, 59, 1},     {100, 100, 3}, {232, 177, 7},
-              {6, 177, 7},  {5, 42, -1},   {233, 42, -1}, {5, 100, -1},   {233, 100, -1}, {100, 41, -1},
-              {100, 178, -1}};
+  } taps[] = {{6, 42, 0},     {232, 42, 0},  {6, 58, 0},    {6, 59, 1},    {100, 100, 3},
+              {232, 177, 7},  {6, 177, 7},   {5, 42, -1},   {233, 42, -1}, {5, 100, -1},
+              {233, 100, -1}, {100, 41, -1}, {100, 178, -1}};
   for (const auto& tap : taps) {
     const int before = tap.cursor == 5 ? 4 : 5;
     select_statement(before);

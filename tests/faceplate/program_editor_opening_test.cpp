@@ -13,7 +13,8 @@
 namespace zephyl {
 namespace {
 
-constexpr const char* LATER = "Program Error | The program requires a more recent version of Zephyl in order to load.";
+constexpr const char* LATER =
+    "Program Error | The program requires a more recent version of Zephyl in order to load.";
 
 class opening_programs : public program_editor {
  protected:
@@ -264,7 +265,8 @@ TEST_F(unreadable_programs, leave_the_open_program_open) {
   }
   tap_key(17);
   leave();
-  EXPECT_EQ(file_of("Mine"), "N: Mine\r\nV: 2.7A\r\nI: 11\r\nE: 33,\r\nI: 12\r\nI: 12\r\nI: 11\r\nE: 34,\r\n");
+  EXPECT_EQ(file_of("Mine"),
+            "N: Mine\r\nV: 2.7A\r\nI: 11\r\nE: 33,\r\nI: 12\r\nI: 12\r\nI: 11\r\nE: 34,\r\n");
 }
 
 TEST_F(unreadable_programs, are_not_copied) {

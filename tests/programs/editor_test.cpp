@@ -81,8 +81,9 @@ TEST_F(editor, the_first_line_of_a_function_is_its_own) {
   add({CODE_FUNC});
   select_statement(0);
   add({CODE_STOP});
-  EXPECT_EQ(message(),
-            "Error | Can't add statement here. The function statement must appear on the first line of a program.");
+  EXPECT_EQ(
+      message(),
+      "Error | Can't add statement here. The function statement must appear on the first line of a program.");
   EXPECT_EQ(program.statement_count, 1);
   select_statement(1);
   add({CODE_STOP});
@@ -95,14 +96,16 @@ TEST_F(editor, nothing_stands_before_a_description) {
   select_statement(0);
   add({CODE_STOP});
   EXPECT_EQ(message(),
-            "Error | Can't add statement here. The program description statement must appear on the first line of a "
+            "Error | Can't add statement here. The program description statement must appear on the first "
+            "line of a "
             "program.");
   add({CODE_FUNC});
   EXPECT_EQ(numbers(), (TNumbers{STATEMENT_FUNC, STATEMENT_DESCRIPTION}));
   select_statement(1);
   add({CODE_STOP});
   EXPECT_EQ(message(),
-            "Error | Can't add statement here. The function statement and program description statement must appear on "
+            "Error | Can't add statement here. The function statement and program description statement must "
+            "appear on "
             "the first two lines of a program.");
 }
 
@@ -125,7 +128,8 @@ TEST_F(editor, a_description_stands_on_the_first_lines) {
   add({CODE_STOP});
   set_description("late");
   EXPECT_EQ(message(),
-            "Error | A program description statement must appear on the first line of a program or the second line of a "
+            "Error | A program description statement must appear on the first line of a program or the "
+            "second line of a "
             "program if a function statement is on the first line.");
   EXPECT_EQ(program.statement_count, 1);
 }
