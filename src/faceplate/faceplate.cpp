@@ -37,7 +37,7 @@ void show_plot_picture(const TSurface& plot, bool at_once) {
   platform().present(at_once);
 }
 
-// The second step of a constant; a name that is in use ends it too.
+// The second step of a constant, whose value is Ans. A name that is in use ends it too.
 bool add_typed_constant(int, const char* unit) {
   add_constant(alpha_entry.constant_name, unit);
   return true;

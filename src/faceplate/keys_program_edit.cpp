@@ -103,13 +103,12 @@ int bring_expression_back(int) {
 }
 
 int menu_statement(int) {
-  if (!can_edit_program()) return KEY_DONE;
+  if (!can_add_statement(CODE_MENU_DISPLAY)) return KEY_DONE;  // where one may stand, all of them may
   switch (ask_menu_function()) {
     case MENU_DISPLAY:
       return CODE_MENU_DISPLAY;
     case MENU_ITEM:
-      return can_add_statement(CODE_MENU_ITEM) && ask_label() ? with_text(CODE_MENU_ITEM, ALPHA_MENU_ITEM)
-                                                              : KEY_DONE;
+      return ask_label() ? with_text(CODE_MENU_ITEM, ALPHA_MENU_ITEM) : KEY_DONE;
     case MENU_TITLE:
       return with_text(CODE_MENU_TITLE, ALPHA_MENU_TITLE);
     case MENU_CLEAR:

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <string>
 
+#include "engine/errors.h"
 #include "engine/state.h"
 #include "faceplate/alpha_entry.h"
 #include "faceplate/dialogs/edit_program.h"
@@ -11,6 +12,7 @@
 #include "faceplate/program_list.h"
 #include "platform/platform.h"
 #include "programs/editor.h"
+#include "programs/open_program.h"
 #include "programs/program_cache.h"
 #include "programs/program_files.h"
 #include "programs/programs.h"
@@ -31,8 +33,16 @@ void show_editor() {
   show_mode(PROGRAM_EDIT_MODE);
 }
 
+// False where the program can't be read: a box has told it, and no error is left to shut the keys.
+bool opened(const TEditChoice& choice) {
+  if (open_program(choice)) return true;
+  clear_error();
+  platform().invalidate(false);
+  return false;
+}
+
 void edit(const TEditChoice& choice) {
-  if (load_program(choice.name.c_str(), choice.built_in) < 0) return;
+  if (!opened(choice)) return;
   return_to_place();
   show_editor();
 }
@@ -79,7 +89,7 @@ bool make_program(int, const char* name) {
 bool copy_program(int, const char* name) {
   if (name_in_use(name)) return false;
   const TProgram before = program;
-  if (load_program(copied.name.c_str(), copied.built_in) < 0) return true;
+  if (!opened(copied)) return true;
   name_program(name);
   program_edited();
   save_program();

@@ -24,7 +24,8 @@ constexpr int TAP_LEFT = 6;
 constexpr int TAP_RIGHT = 232;
 constexpr int ROW_WIDTH = 200;
 
-// Writes glyphs from the left of a row and, where they wrap, on in the next one. Without a surface it only measures.
+// Writes glyphs from the left of a row and, where they wrap, on in the next one. Without a surface it only
+// measures.
 class TRowPen {
  public:
   TRowPen(TSurface* surface, int row) : surface_(surface), row_(row) {}
@@ -39,7 +40,7 @@ class TRowPen {
   }
   void put(const TBitmap& glyph) {
     if (used_ + glyph.width > ROW_WIDTH) {
-      if (!wraps_) return;
+      if (!wraps_) return cut();
       next_row();
     }
     const int y = LIST_TOP + row_ * ROW_HEIGHT;
@@ -54,6 +55,9 @@ class TRowPen {
     ++rows_used_;
     used_ = 0;
   }
+
+  // A narrower glyph behind the one that is left out would look like the end of the text.
+  void cut() { used_ = ROW_WIDTH; }
 
   TSurface* surface_;
   int row_;

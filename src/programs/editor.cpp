@@ -4,7 +4,6 @@
 #include <cstring>
 
 #include "engine/state.h"
-#include "persistence/text_file.h"
 #include "platform/platform.h"
 
 namespace zephyl {
@@ -65,7 +64,8 @@ bool description_may_stand() {
   const bool behind_func = program.cursor == 1 && stands(0, STATEMENT_FUNC);
   if (first || behind_func) return true;
   return refuse(
-      "A program description statement must appear on the first line of a program or the second line of a program if "
+      "A program description statement must appear on the first line of a program or the second line of a "
+      "program if "
       "a function statement is on the first line.");
 }
 
@@ -76,17 +76,20 @@ bool func_may_stand() {
 bool other_may_stand() {
   if (program.cursor == 0 && stands(0, STATEMENT_DESCRIPTION))
     return refuse(
-        "Can't add statement here. The program description statement must appear on the first line of a program.");
+        "Can't add statement here. The program description statement must appear on the first line of a "
+        "program.");
   if (program.cursor == 1 && stands(0, STATEMENT_FUNC) && stands(1, STATEMENT_DESCRIPTION))
     return refuse(
-        "Can't add statement here. The function statement and program description statement must appear on the first "
+        "Can't add statement here. The function statement and program description statement must appear on "
+        "the first "
         "two lines of a program.");
   return true;
 }
 
 bool may_stand(int code) {
   if (program.cursor == 0 && code != CODE_FUNC && stands(0, STATEMENT_FUNC))
-    return refuse("Can't add statement here. The function statement must appear on the first line of a program.");
+    return refuse(
+        "Can't add statement here. The function statement must appear on the first line of a program.");
   if (code == CODE_FUNC) return (program.cursor != 1 || other_may_stand()) && func_may_stand();
   return code == CODE_DESCRIPTION ? description_may_stand() : other_may_stand();
 }
@@ -108,6 +111,7 @@ void take_entry_line(ProgramStatement& statement) {
   statement.key_count = entry_line.expression.count;
   std::copy_n(entry_line.expression.tokens, statement.key_count, statement.keys);
   state.fresh_flag = true;  // the next token begins a new expression
+  entry_line.cursor_shown = false;
 }
 
 // Only the operands that the statement has: files hold no others.
@@ -127,11 +131,26 @@ ProgramStatement statement_from(int code) {
     statement.label = new_statement.label;
   if (uses({STATEMENT_IN_FUNCTION, STATEMENT_FUNCTION})) statement.func = new_statement.func;
   if (uses({STATEMENT_OUT})) statement.pause = new_statement.pause;
-  if (uses({STATEMENT_CALL, STATEMENT_IN, STATEMENT_OUT, STATEMENT_TEXT, STATEMENT_IN_FUNCTION, STATEMENT_FUNC,
-            STATEMENT_ERROR, STATEMENT_MENU_ITEM, STATEMENT_MENU_TITLE}))
+  if (uses({STATEMENT_CALL, STATEMENT_IN, STATEMENT_OUT, STATEMENT_TEXT, STATEMENT_IN_FUNCTION,
+            STATEMENT_FUNC, STATEMENT_ERROR, STATEMENT_MENU_ITEM, STATEMENT_MENU_TITLE}))
     std::memcpy(statement.text, new_statement.text, sizeof statement.text);
   if (code == CODE_EXPRESS) take_entry_line(statement);
   return statement;
+}
+
+bool holds_description() {
+  const ProgramStatement* const first = program.statements;
+  return std::any_of(first, first + program.statement_count, [](const ProgramStatement& statement) {
+    return statement.number == STATEMENT_DESCRIPTION;
+  });
+}
+
+// A line break, two "~", is kept whole or not at all.
+std::size_t fitting_length(const std::string& stored) {
+  if (stored.size() <= STORED_DESCRIPTION_LIMIT) return stored.size();
+  std::size_t text_end = STORED_DESCRIPTION_LIMIT;
+  while (text_end > 0 && stored[text_end - 1] == '~') --text_end;
+  return STORED_DESCRIPTION_LIMIT - (STORED_DESCRIPTION_LIMIT - text_end) % 2;
 }
 
 bool unsupported_in_functions(const ProgramStatement& statement) {
@@ -153,10 +172,14 @@ bool unsupported_in_functions(const ProgramStatement& statement) {
 
 void note_unsupported_statements() {
   const ProgramStatement* const first = program.statements;
-  if (!is_function_program() || std::none_of(first, first + program.statement_count, unsupported_in_functions)) return;
+  if (!is_function_program() ||
+      std::none_of(first, first + program.statement_count, unsupported_in_functions))
+    return;
   platform().show_message(
-      "The program statements Call, In, In f(), Rtn call, Text, and Menu statements are not supported in a custom "
-      "function. The Out statement is supported for saving values globally but the 'Pause?' and Text 'Label?' options "
+      "The program statements Call, In, In f(), Rtn call, Text, and Menu statements are not supported in a "
+      "custom "
+      "function. The Out statement is supported for saving values globally but the 'Pause?' and Text "
+      "'Label?' options "
       "are ignored.",
       "Program Note");
 }
@@ -181,8 +204,8 @@ bool can_edit_program() { return !program.built_in || refuse("A built-in program
 bool can_add_statement(int code) {
   if (!can_edit_program()) return false;
   const bool full = program.statement_count >= STATEMENT_LIMIT;
-  const bool grows = !replaces_func(code) && !(code == CODE_DESCRIPTION && has_description());
-  if (full && grows) return refuse("Reached program size limit", "Limit");
+  const bool only_words = code == CODE_DESCRIPTION && has_description();
+  if (full && !only_words) return refuse("Reached program size limit", "Limit");
   return may_stand(code);
 }
 
@@ -205,6 +228,7 @@ void delete_statement() {
   ProgramStatement* const at = program.statements + program.cursor;
   std::copy(at + 1, program.statements + program.statement_count, at);
   --program.statement_count;
+  if (!holds_description()) program.description[0] = 0;  // a new one begins without the old words
   if (program.cursor == program.statement_count && program.cursor > 0) --program.cursor;
   program_edited();
   follow_cursor();
@@ -234,8 +258,7 @@ bool has_description() {
 }
 
 void set_description(const std::string& stored) {
-  constexpr std::size_t most = LINE_LIMIT - 1 - 3;  // a longer line, "Z: " with it, would end the file
-  const std::size_t length = std::min(stored.size(), most);
+  const std::size_t length = fitting_length(stored);
   std::memcpy(program.description, stored.data(), length);
   program.description[length] = 0;
   if (has_description())

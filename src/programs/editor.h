@@ -1,13 +1,19 @@
-// The program editor: what its keys do to the program in memory. The screen that lists the program is the faceplate's.
+// The program editor: what its keys do to the program in memory. The screen that lists the program is the
+// faceplate's.
 #pragma once
 
 #include <string>
 
+#include "persistence/text_file.h"
 #include "programs/program.h"
 
 namespace zephyl {
 
-// The codes that the keys of program edit give, and the statement of each; a code above 100 is that of a shifted key.
+// Bytes of a description as it is stored: a longer line, "Z: " with it, would end the file.
+constexpr std::size_t STORED_DESCRIPTION_LIMIT = LINE_LIMIT - 1 - 3;
+
+// The codes that the keys of program edit give, and the statement of each; a code above 100 is that of a
+// shifted key.
 enum TStatementCode {
   CODE_IF = 6,
   CODE_ELSE = 106,
@@ -44,12 +50,13 @@ int statement_of_code(int code);
 // The operands of the statement being added; the dialogs fill them in and open on what was chosen last.
 extern ProgramStatement new_statement;
 
-// Whether a statement of that code may stand at the cursor; if not, a box has said why. Also false, with its box, for a
-// built-in program and for one of 99 statements.
+// Whether a statement of that code may stand at the cursor; if not, a box has said why. Also false, with its
+// box, for a built-in program and for one of 99 statements.
 bool can_add_statement(int code);
 
-// Adds the statement with the operands of new_statement in front of the cursor's, if it may stand there. An expression
-// comes from the entry line. A `func(` replaces one that is there; a second description is dropped.
+// Adds the statement with the operands of new_statement in front of the cursor's, if it may stand there. An
+// expression comes from the entry line. A `func(` replaces one that is there; a second description is
+// dropped.
 void add_statement(int code);
 
 // "A built-in program can't be edited" for one of those; true if the program may be changed.
@@ -60,12 +67,14 @@ void delete_statement();
 void move_statement_cursor(int lines);
 void select_statement(int index);
 
-// The expression of an `<express>` statement at the cursor goes to the entry line; nothing for another statement.
+// The expression of an `<express>` statement at the cursor goes to the entry line; nothing for another
+// statement.
 void take_expression_back();
 
 // Has the description been put in already? Then its key edits it.
 bool has_description();
-// Puts a stored description into the program, and its statement if it isn't there.
+// Puts a stored description into the program, and its statement if it isn't there. Of a longer one than
+// STORED_DESCRIPTION_LIMIT so much as fits.
 void set_description(const std::string& stored);
 
 // --- What the list shows

@@ -7,6 +7,7 @@
 #include "engine/state.h"
 #include "programs/dialogs/select_program.h"
 #include "programs/interpreter.h"
+#include "programs/open_program.h"
 #include "programs/program.h"
 #include "programs/program_cache.h"
 #include "programs/programs.h"
@@ -33,9 +34,18 @@ void show_error(TError error) {
   hooks.redraw_part(PART_AC_AND_ARROWS);
 }
 
+bool shows_lines() { return state.calcMode != PROGRAM_EDIT_MODE && state.calcMode != PLOT_MODE; }
+
 void leave_screens_without_lines() {
-  const bool shows_lines = state.calcMode != PROGRAM_EDIT_MODE && state.calcMode != PLOT_MODE;
-  if (!shows_lines && hooks.set_mode) hooks.set_mode(COMP_MODE, false);
+  if (!shows_lines() && hooks.set_mode) hooks.set_mode(COMP_MODE, false);
+}
+
+// A box has told it already; an error that no line shows would only shut the keys.
+void fail_to_open() {
+  if (shows_lines())
+    show_error(ERR_PROGRAM_NOT_FOUND);
+  else
+    clear_error();
 }
 
 void run_program_in_memory() {
@@ -60,7 +70,7 @@ void choose_and_run() {
   if (state.calcMode == PROGRAM_EDIT_MODE) save_program();
   clear_error();
   forget_programs();
-  if (load_program(choice.name.c_str(), choice.built_in) < 0) return show_error(ERR_PROGRAM_NOT_FOUND);
+  if (!open_program(choice)) return fail_to_open();
   run_program_in_memory();
 }
 

@@ -156,6 +156,29 @@ TEST_F(select_variable, by_value_enters_digits) {
   EXPECT_EQ(entry(), "(-2.5)");
 }
 
+TEST_F(select_variable, by_value_is_remembered_until_the_next_start) {
+  bool by_value = false;
+  const auto ticked_at_opening = [&] {
+    bool ticked = false;
+    answer([&ticked](TDialog& dialog) { ticked = dialog[find_control(dialog, "By Value?")].checked; });
+    EXPECT_EQ(choose_recall_variable(by_value), NO_VARIABLE);
+    return ticked;
+  };
+  EXPECT_FALSE(ticked_at_opening());
+  answer([](TDialog& dialog) { set_checked(dialog, find_control(dialog, "By Value?"), true); });
+  EXPECT_EQ(choose_recall_variable(by_value), NO_VARIABLE);
+  EXPECT_FALSE(ticked_at_opening());  // it was cancelled
+  answer([](TDialog& dialog) {
+    set_checked(dialog, find_control(dialog, "By Value?"), true);
+    accept_dialog(dialog);
+  });
+  choose_recall_variable(by_value);
+  EXPECT_TRUE(by_value);
+  EXPECT_TRUE(ticked_at_opening());
+  restart(platform_.folder);
+  EXPECT_FALSE(ticked_at_opening());
+}
+
 TEST_F(select_variable, a_table_has_no_digits_and_goes_by_name) {
   answer([](TDialog& dialog) {
     choose_row(dialog, 0, 5);

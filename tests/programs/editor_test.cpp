@@ -63,6 +63,7 @@ TEST_F(editor, an_expression_comes_from_the_entry_line_and_goes_back) {
   add({CODE_EXPRESS});
   EXPECT_EQ(program.statements[0].key_count, 3);
   EXPECT_TRUE(state.fresh_flag);
+  EXPECT_FALSE(entry_line.cursor_shown);
   eval("7");
   select_statement(0);
   take_expression_back();
@@ -80,8 +81,9 @@ TEST_F(editor, the_first_line_of_a_function_is_its_own) {
   add({CODE_FUNC});
   select_statement(0);
   add({CODE_STOP});
-  EXPECT_EQ(message(),
-            "Error | Can't add statement here. The function statement must appear on the first line of a program.");
+  EXPECT_EQ(
+      message(),
+      "Error | Can't add statement here. The function statement must appear on the first line of a program.");
   EXPECT_EQ(program.statement_count, 1);
   select_statement(1);
   add({CODE_STOP});
@@ -94,14 +96,16 @@ TEST_F(editor, nothing_stands_before_a_description) {
   select_statement(0);
   add({CODE_STOP});
   EXPECT_EQ(message(),
-            "Error | Can't add statement here. The program description statement must appear on the first line of a "
+            "Error | Can't add statement here. The program description statement must appear on the first "
+            "line of a "
             "program.");
   add({CODE_FUNC});
   EXPECT_EQ(numbers(), (TNumbers{STATEMENT_FUNC, STATEMENT_DESCRIPTION}));
   select_statement(1);
   add({CODE_STOP});
   EXPECT_EQ(message(),
-            "Error | Can't add statement here. The function statement and program description statement must appear on "
+            "Error | Can't add statement here. The function statement and program description statement must "
+            "appear on "
             "the first two lines of a program.");
 }
 
@@ -124,7 +128,8 @@ TEST_F(editor, a_description_stands_on_the_first_lines) {
   add({CODE_STOP});
   set_description("late");
   EXPECT_EQ(message(),
-            "Error | A program description statement must appear on the first line of a program or the second line of a "
+            "Error | A program description statement must appear on the first line of a program or the "
+            "second line of a "
             "program if a function statement is on the first line.");
   EXPECT_EQ(program.statement_count, 1);
 }
@@ -145,6 +150,55 @@ TEST_F(editor, the_hundredth_statement_is_refused) {
   add({CODE_STOP});
   EXPECT_EQ(message(), "Limit | Reached program size limit");
   EXPECT_EQ(program.statement_count, 99);
+}
+
+TEST_F(editor, a_full_function_refuses_other_arguments_too) {
+  add({CODE_FUNC});
+  for (int i = 1; i < STATEMENT_LIMIT; ++i) add_statement(CODE_STOP);
+  std::strcpy(new_statement.text, "C");
+  select_statement(0);
+  add({CODE_FUNC});
+  EXPECT_EQ(message(), "Limit | Reached program size limit");
+  EXPECT_STREQ(program.statements[0].text, "");
+}
+
+TEST_F(editor, a_description_that_was_deleted_leaves_no_words_behind) {
+  set_description("old words");
+  select_statement(0);
+  delete_statement();
+  EXPECT_STREQ(program.description, "");
+  set_description("first");
+  add({CODE_STOP});
+  delete_statement();
+  EXPECT_STREQ(program.description, "first");
+}
+
+TEST_F(editor, of_two_descriptions_in_a_file_the_words_stay_with_the_other) {
+  set_description("words");
+  program.statements[program.statement_count++].number = STATEMENT_DESCRIPTION;
+  select_statement(1);
+  delete_statement();
+  EXPECT_STREQ(program.description, "words");
+}
+
+TEST_F(editor, a_description_is_as_long_as_a_line_of_its_file) {
+  set_description(std::string(STORED_DESCRIPTION_LIMIT, 'x'));
+  EXPECT_EQ(std::strlen(program.description), STORED_DESCRIPTION_LIMIT);
+  set_description(std::string(STORED_DESCRIPTION_LIMIT + 1, 'x'));
+  EXPECT_EQ(std::strlen(program.description), STORED_DESCRIPTION_LIMIT);
+}
+
+TEST_F(editor, a_description_is_not_cut_in_the_middle_of_a_line_break) {
+  const std::string to_the_break(STORED_DESCRIPTION_LIMIT - 1, 'x');
+  set_description(to_the_break + "~~y");
+  EXPECT_EQ(program.description, to_the_break);
+  const std::string before_it(STORED_DESCRIPTION_LIMIT - 2, 'x');
+  set_description(before_it + "~~y");
+  EXPECT_EQ(program.description, before_it + "~~");
+  set_description(before_it.substr(1) + "~~~~");
+  EXPECT_EQ(program.description, before_it.substr(1) + "~~");
+  set_description(std::string(2 * STORED_DESCRIPTION_LIMIT, '~'));
+  EXPECT_EQ(std::strlen(program.description), STORED_DESCRIPTION_LIMIT - 1);
 }
 
 TEST_F(editor, a_built_in_program_stays_as_it_is) {

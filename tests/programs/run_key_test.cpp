@@ -164,11 +164,32 @@ TEST_F(run_key, a_standing_error_ends_with_the_start) {
 TEST_F(run_key, a_program_that_cannot_be_read_is_not_found) {
   write_file_of("Broken", "N: Broken\r\nX: 1\r\n");
   EXPECT_EQ(run_program("Broken"), "Program Not Found");
+  EXPECT_EQ(message(), "Program Error | The program can't be read: Broken");
   EXPECT_FALSE(state.program_running);
   write_file_of("Later", "N: Later\r\nV: 3.0\r\n");
   EXPECT_EQ(run_program("Later"), "Program Version Error");
   EXPECT_EQ(message(),
             "Program Error | The program requires a more recent version of Zephyl in order to load.");
+  EXPECT_EQ(message(), "none");
+}
+
+TEST_F(run_key, in_program_edit_a_program_that_cannot_be_read_leaves_the_open_one) {
+  write_file_of("Broken", "N: Broken\r\nX: 1\r\n");
+  write_file_of("Later", "N: Later\r\nV: 3.0\r\n");
+  write_program("F", {"func(a)", "a"});
+  load_program("F", false);
+  state.calcMode = PROGRAM_EDIT_MODE;
+  program.cursor = 1;
+  for (const char* name : {"Broken", "Later"}) {
+    start(name);
+    EXPECT_NE(message(), "none");
+    EXPECT_FALSE(errors.error_flag) << name;
+    EXPECT_FALSE(state.program_running) << name;
+    EXPECT_EQ(state.calcMode, PROGRAM_EDIT_MODE);
+    EXPECT_STREQ(program.name, "F");
+    EXPECT_EQ(program.statement_count, 2);
+    EXPECT_EQ(program.cursor, 1);
+  }
 }
 
 TEST_F(run_key, an_empty_program_runs_to_its_end) {

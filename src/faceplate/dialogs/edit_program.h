@@ -1,16 +1,15 @@
 // Dialog 152, "Select Program": a program to edit, to copy or to delete, or a new one.
 #pragma once
 
-#include <string>
+#include "programs/dialogs/select_program.h"
 
 namespace zephyl {
 
 enum TProgramAction { EDIT_PROGRAM = 0, NEW_PROGRAM, COPY_PROGRAM, DELETE_PROGRAM };
 
-struct TEditChoice {
-  std::string name;  // empty: none
+// Without a name: none was chosen.
+struct TEditChoice : TProgramChoice {
   int action = EDIT_PROGRAM;
-  bool built_in = false;
 };
 
 // False on Cancel.

@@ -18,11 +18,11 @@ int choose_store_variable() {
 int choose_recall_variable(bool& by_value) {
   TDialog dialog(170, "Select Variable");
   const TVariablePicker picker(dialog, remembered.recall_variable, true);
-  const int value = dialog.add(check_control("By Value?", false));
+  const int value = dialog.add(check_control("By Value?", remembered.recall_by_value));
   add_ok_cancel(dialog);
   dialog.procedure = [&](TDialog& open, const TDialogEvent& event) { picker.handle(open, event); };
   if (!confirmed(dialog)) return NO_VARIABLE;
-  by_value = dialog[value].checked;
+  by_value = remembered.recall_by_value = dialog[value].checked;
   return remembered.recall_variable = picker.selection(dialog);
 }
 

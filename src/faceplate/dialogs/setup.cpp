@@ -10,7 +10,6 @@
 #include "faceplate/dialogs/about.h"
 #include "faceplate/dialogs/colour.h"
 #include "persistence/constant_dialogs.h"
-#include "persistence/constants.h"
 #include "persistence/settings.h"
 #include "persistence/state_file.h"
 #include "platform/dialog.h"
@@ -111,16 +110,8 @@ void TSetup::take_over() const {
   settings.skin = pending_display.skin;
 }
 
-// The value of the new constant is Ans. Whether it could be added or not, the entry of its unit is over.
-bool add_typed_constant(int, const char* unit) {
-  add_constant(alpha_entry.constant_name, unit);
-  return true;
-}
-
 void change_constants() {
-  if (!edit_constants()) return;
-  set_alpha_taker(ALPHA_CONSTANT_UNIT, add_typed_constant);
-  start_alpha_entry(ALPHA_CONSTANT_NAME);
+  if (edit_constants()) start_alpha_entry(ALPHA_CONSTANT_NAME);
 }
 
 // The result line, the plot and the picture follow what has changed.

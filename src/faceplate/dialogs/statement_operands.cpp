@@ -22,6 +22,8 @@ constexpr int DESCRIPTION_LINES = 10;
 
 // What the dialogs were left on, beside new_statement.
 struct TLast {
+  int left_row = 0;
+  int right_row = 0;
   int input_slot = SLOT_R0;
   int output_row = 0;
   int file_row = 0;
@@ -76,18 +78,20 @@ bool ask_label() {
 
 bool ask_condition() {
   TDialog dialog(149, "Select Conditional");
-  const int left = dialog.add(combo_control("Memory Variable 1:", scalar_rows({"Ans"}), new_statement.var0));
+  const int left = dialog.add(combo_control("Memory Variable 1:", scalar_rows({"Ans"}), last.left_row));
   const int compare =
       dialog.add(combo_control("Conditional:",
                                {"= (equal to)", "<> (not equal to)", "< (less than)", "> (greater than)",
                                 ">= (greater than or equal to)", "<= (less than or equal to)"},
                                new_statement.compare));
   const int right =
-      dialog.add(combo_control("Memory Variable 2:", scalar_rows({"ZERO", "Ans"}), new_statement.var1));
+      dialog.add(combo_control("Memory Variable 2:", scalar_rows({"ZERO", "Ans"}), last.right_row));
   if (!confirmed_with_ok(dialog)) return false;
-  new_statement.var0 = static_cast<std::int16_t>(dialog[left].selected);
+  last.left_row = dialog[left].selected;
+  last.right_row = dialog[right].selected;
+  new_statement.var0 = static_cast<std::int16_t>(last.left_row);
   new_statement.compare = static_cast<std::int16_t>(dialog[compare].selected);
-  new_statement.var1 = static_cast<std::int16_t>(dialog[right].selected);
+  new_statement.var1 = static_cast<std::int16_t>(last.right_row);
   return true;
 }
 
@@ -182,11 +186,28 @@ int ask_menu_function() {
   return last.menu_function = dialog[row].selected;
 }
 
+namespace {
+
+// Line breaks take two bytes, so that fewer characters than the field takes may be too many. What was written
+// stays in the dialog then.
+void keep_long_description(TDialog& dialog, const std::string& stored) {
+  if (stored.size() <= STORED_DESCRIPTION_LIMIT) return;
+  const std::size_t over = stored.size() - STORED_DESCRIPTION_LIMIT;
+  platform().show_message(("The description is too long by " + std::to_string(over)).c_str(), "Limit");
+  dialog.keep_open();
+}
+
+}  // namespace
+
 void edit_description() {
   TDialog dialog(182, "Program Description");
   TControl text = edit_control("Description:", shown_description(program.description), DESCRIPTION_LIMIT);
   text.lines = DESCRIPTION_LINES;
   const int description = dialog.add(std::move(text));
+  dialog.procedure = [=](TDialog& open, const TDialogEvent& event) {
+    const bool ok = event.kind == CONTROL_ACTIVATED && open[event.control].role == BUTTON_DEFAULT;
+    if (ok) keep_long_description(open, stored_description(open[description].text));
+  };
   if (confirmed_with_ok(dialog)) set_description(stored_description(dialog[description].text));
 }
 
