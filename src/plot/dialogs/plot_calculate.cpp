@@ -19,7 +19,7 @@ namespace {
 constexpr int PLOT_CALCULATE = 212;
 
 enum TCalculateControl { CALCULATION = 0, DESCRIPTION, FUNCTION, VALUE, OK, CANCEL };
-constexpr int DESCRIPTION_LINES = 7;
+constexpr int DESCRIPTION_LINES = 9;  // of the longest description
 
 // --- The calculations
 
