@@ -23,7 +23,8 @@ void draw_heading(TSurface& surface, int calculation) {
 
 }  // namespace
 
-void print_calculate_small_numbers_low_level(TSurface& surface, int plot_type, const TCalculated& calculated) {
+void print_calculate_small_numbers_low_level(TSurface& surface, int plot_type,
+                                             const TCalculated& calculated) {
   constexpr const char* names[][3] = {{"SMALL_XTRACE", "SMALL_YTRACE", nullptr},
                                       {"SMALL_THETA", "SMALL_RTRACE", nullptr},
                                       {"SMALL_T", "SMALL_XTTRACE", "SMALL_YTTRACE"}};

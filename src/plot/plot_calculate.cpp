@@ -54,7 +54,8 @@ TScratch build_scratch(int calculation) {
   if (calculation != CALCULATE_INTERSECTION)
     return wrap_function(operation, plot_slot(PLOT_FUNCTION, plot_calculation.function));
   const TFunctionPair pair = function_pair(plot_calculation.pair);
-  return wrap_difference(operation, plot_slot(PLOT_FUNCTION, pair.first), plot_slot(PLOT_FUNCTION, pair.second));
+  return wrap_difference(operation, plot_slot(PLOT_FUNCTION, pair.first),
+                         plot_slot(PLOT_FUNCTION, pair.second));
 }
 
 // The slot whose value is y.
@@ -79,7 +80,8 @@ bool evaluate_scratch(int calculation, double x, TPlotNumber& number) {
   number = {undefined_value, ERR_PARENTHESIS_UNBALANCED};
   if (scratch == SCRATCH_READY) number = plot_number(PLOT_SCRATCH_TYPE, x, 0);
   clear_scratch();
-  if (calculation == CALCULATE_INTERSECTION && number.error == ERR_NO_ROOT) number.error = ERR_NO_INTERSECTION;
+  if (calculation == CALCULATE_INTERSECTION && number.error == ERR_NO_ROOT)
+    number.error = ERR_NO_INTERSECTION;
   return true;
 }
 

@@ -104,7 +104,8 @@ void TPlotTable::evaluate_column(std::size_t column) {
 
 std::string TPlotTable::row_text(int row) {
   std::string text = text_of(parameter_number(row_value(row)));
-  for (std::size_t column = 0; column < slots_.size(); ++column) text += "\t" + text_of(cell(row, column).number);
+  for (std::size_t column = 0; column < slots_.size(); ++column)
+    text += "\t" + text_of(cell(row, column).number);
   return text;
 }
 

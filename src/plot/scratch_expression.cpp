@@ -10,7 +10,7 @@ namespace zephyl {
 
 namespace {
 
-constexpr int SCRATCH_LIMIT = 100;   // tokens
+constexpr int SCRATCH_LIMIT = 100;    // tokens
 constexpr int FUNCTION_WRAPPING = 2;  // tokens around a function
 constexpr int DIFFERENCE_WRAPPING = 7;
 

@@ -434,8 +434,8 @@ class scrolling_table : public dialog_window {
     return acts;
   }
   void turn_wheel(int angle) {
-    QWheelEvent event({20, 40}, view()->mapToGlobal(QPointF{20, 40}), {}, {0, angle}, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
+    QWheelEvent event({20, 40}, view()->mapToGlobal(QPointF{20, 40}), {}, {0, angle}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(view()->viewport(), &event);
     settle();
   }
@@ -474,7 +474,8 @@ TEST_F(scrolling_table, the_bar_moves_the_rows_and_springs_back) {
   EXPECT_EQ(scrolled(), (std::vector<int>{1, -10}));
   EXPECT_EQ(bar->value(), 0);
   bar->setSliderDown(true);
-  for (const int place : {4, 7, 2}) bar->setSliderPosition(place), bar->triggerAction(QAbstractSlider::SliderMove);
+  for (const int place : {4, 7, 2})
+    bar->setSliderPosition(place), bar->triggerAction(QAbstractSlider::SliderMove);
   EXPECT_EQ(scrolled(), (std::vector<int>{4, 3, -5}));
   bar->setSliderDown(false);
   EXPECT_EQ(bar->value(), 0);

@@ -52,8 +52,7 @@ TEST_F(plot_calculate_dialog, offers_value_and_table_of_curves) {
   open([](TDialog& dialog) {
     EXPECT_EQ(rows(dialog, "Calculation"), "Value|Table|");
     EXPECT_EQ(labels(dialog), "Calculation:||Function:|theta Value: (Rad)|OK|Cancel|");
-    EXPECT_EQ(rows(dialog, "Function"),
-              "R1(theta)|R2(theta)|R3(theta)|R4(theta)|R5(theta)|R6(theta)|");
+    EXPECT_EQ(rows(dialog, "Function"), "R1(theta)|R2(theta)|R3(theta)|R4(theta)|R5(theta)|R6(theta)|");
   });
   choose(PLOT_PARAMETRIC);
   open([](TDialog& dialog) {
@@ -92,20 +91,24 @@ TEST_F(plot_calculate_dialog, describes_each_calculation) {
   open([](TDialog& dialog) {
     const char* const texts[] = {
         "Calculates a function value for a given x. Select the function and enter the x value below.",
-        "Finds a root (x-intercept) of a function. Select the function below. Only one root is returned even if "
+        "Finds a root (x-intercept) of a function. Select the function below. Only one root is returned even "
+        "if "
         "the function has more than one root. Zoom in on a function to find a particular root. The minimum x "
         "value and maximum x value of the plot area are used as the extremes for finding a root.",
-        "Finds a minimum of a function. Select the function below. Zoom in on a function to find a particular "
+        "Finds a minimum of a function. Select the function below. Zoom in on a function to find a "
+        "particular "
         "minimum. The minimum x value and maximum x value of the plot area are used as the extremes for "
         "finding a minimum.",
-        "Finds a maximum of a function. Select the function below. Zoom in on a function to find a particular "
+        "Finds a maximum of a function. Select the function below. Zoom in on a function to find a "
+        "particular "
         "maximum. The minimum x value and maximum x value of the plot area are used as the extremes for "
         "finding a maximum.",
         "Finds an intersection of two functions. Select the two functions below. Only one intersection is "
         "returned even if the functions have more than one intersection. Zoom in on a function to find a "
         "particular intersection. The minimum x value and maximum x value of the plot area are used as the "
         "extremes for finding an intersection.",
-        "Finds the slope (numeric derivative) of a function for a given x. Select the function and enter the x "
+        "Finds the slope (numeric derivative) of a function for a given x. Select the function and enter the "
+        "x "
         "value below.",
         "Calculates a table of values for the displayed functions."};
     for (int calculation = 0; calculation < CALCULATION_COUNT; ++calculation) {
@@ -116,7 +119,8 @@ TEST_F(plot_calculate_dialog, describes_each_calculation) {
   choose(PLOT_POLAR);
   open([](TDialog& dialog) {
     EXPECT_EQ(description(dialog),
-              "Calculates a function value for a given theta. Select the function and enter the theta value below.");
+              "Calculates a function value for a given theta. Select the function and enter the theta value "
+              "below.");
     select(dialog, "Calculation", 1);
     EXPECT_EQ(description(dialog), "Calculates a table of values for the displayed functions.");
   });
@@ -269,7 +273,8 @@ TEST_F(plot_calculate_dialog, whatever_is_chosen_and_typed_it_ends_well) {
   put(PLOT_POLAR, 0, "ln((theta))");
   put(PLOT_PARAMETRIC, 0, "t!");
   put(PLOT_PARAMETRIC, 1, "1/t");
-  const std::string values[] = {"0", "-1e308", "1e308", "170.5", "1/0", "xyz", "(Rand)", std::string(10000, 'e'), "((((", "-"};
+  const std::string values[] = {
+      "0", "-1e308", "1e308", "170.5", "1/0", "xyz", "(Rand)", std::string(10000, 'e'), "((((", "-"};
   for (const int type : {PLOT_FUNCTION, PLOT_POLAR, PLOT_PARAMETRIC}) {
     choose(type);
     int calculations = 1;

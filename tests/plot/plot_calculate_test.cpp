@@ -25,7 +25,8 @@ class plot_calculations : public plotting {
   static void of_function(int slot) { plot_calculation.function = slot; }
   static void of_pair(int first, int second) {
     for (int row = 0; row < FUNCTION_PAIR_COUNT; ++row)
-      if (function_pair(row).first == first && function_pair(row).second == second) plot_calculation.pair = row;
+      if (function_pair(row).first == first && function_pair(row).second == second)
+        plot_calculation.pair = row;
   }
   static TPlotNumber error(int code) { return {undefined_value, code}; }
 
@@ -129,9 +130,9 @@ TEST_F(plot_calculations, a_search_that_meets_an_error_shows_its_word) {
   const struct {
     const char* function;
     int error;
-  } rows[] = {{"ln(x)", ERR_DOMAIN},          {"x+(i)", ERR_DATA_TYPE}, {"e^(x^6)", ERR_OVERFLOW},
-              {"x+", ERR_SYNTAX},             {"x,2", ERR_ARGUMENT_COUNT},  {"(xMean)", ERR_NO_STATS_DATA},
-              {"{x,1}", ERR_DATA_TYPE},   {"1/(x+10)", ERR_ZERO_DIVIDE}, {"Nothing(x)", ERR_PROGRAM_NOT_FOUND}};
+  } rows[] = {{"ln(x)", ERR_DOMAIN},    {"x+(i)", ERR_DATA_TYPE},      {"e^(x^6)", ERR_OVERFLOW},
+              {"x+", ERR_SYNTAX},       {"x,2", ERR_ARGUMENT_COUNT},   {"(xMean)", ERR_NO_STATS_DATA},
+              {"{x,1}", ERR_DATA_TYPE}, {"1/(x+10)", ERR_ZERO_DIVIDE}, {"Nothing(x)", ERR_PROGRAM_NOT_FOUND}};
   for (const auto& row : rows) {
     put(PLOT_FUNCTION, 0, row.function);
     for (const int calculation : {CALCULATE_ROOT, CALCULATE_MINIMUM, CALCULATE_MAXIMUM}) {
@@ -312,7 +313,8 @@ TEST_F(plot_calculations, a_parenthesis_that_a_function_never_opened_is_a_syntax
   for (const auto& pair : {TFunctionPair{0, 1}, TFunctionPair{1, 0}}) {
     of_pair(pair.first, pair.second);
     plot_calculate(CALCULATE_INTERSECTION, 0);
-    expect_point("SMALL_CALC_INTERSECT", error(ERR_PARENTHESIS_UNBALANCED), error(ERR_PARENTHESIS_UNBALANCED));
+    expect_point("SMALL_CALC_INTERSECT", error(ERR_PARENTHESIS_UNBALANCED),
+                 error(ERR_PARENTHESIS_UNBALANCED));
   }
 }
 

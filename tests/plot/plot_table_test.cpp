@@ -84,8 +84,8 @@ TEST_F(plot_table, of_polar_curves_names_the_angle_mode) {
   const char* const names[] = {"theta (Rad)", "theta (Deg)", "theta (Grad)"};
   for (int mode = RADIANS; mode <= GRADS; ++mode) {
     settings.angleMode = mode;
-    EXPECT_EQ(TPlotTable().headings(), (TTexts{names[mode], "R1(theta)", "R2(theta)", "R3(theta)", "R4(theta)",
-                                               "R5(theta)", "R6(theta)"}));
+    EXPECT_EQ(TPlotTable().headings(), (TTexts{names[mode], "R1(theta)", "R2(theta)", "R3(theta)",
+                                               "R4(theta)", "R5(theta)", "R6(theta)"}));
   }
 }
 
@@ -133,12 +133,12 @@ TEST_F(plot_table, every_error_has_its_word) {
   const struct {
     int code;
     const char* word;
-  } rows[] = {{0, "Overflow"},       {1, "Overflow"},       {2, "Div by Zero"},
-              {3, "Domain"},         {4, "Domain"},         {5, "Syntax"},
-              {17, "Syntax"},        {31, "Syntax"},        {34, "Syntax"},
-              {6, "No Stats Data"},  {7, "No Stats y Data"}, {15, "Data Type"},
-              {18, "Data Type"},     {32, "No Root Found"}, {33, "No Intersection Found"},
-              {50, "Undefined"},     {8, "Error"},          {25, "Error"},
+  } rows[] = {{0, "Overflow"},      {1, "Overflow"},        {2, "Div by Zero"},
+              {3, "Domain"},        {4, "Domain"},          {5, "Syntax"},
+              {17, "Syntax"},       {31, "Syntax"},         {34, "Syntax"},
+              {6, "No Stats Data"}, {7, "No Stats y Data"}, {15, "Data Type"},
+              {18, "Data Type"},    {32, "No Root Found"},  {33, "No Intersection Found"},
+              {50, "Undefined"},    {8, "Error"},           {25, "Error"},
               {49, "Error"}};
   for (const auto& row : rows) EXPECT_STREQ(error_word_text(row.code), row.word) << row.code;
 }

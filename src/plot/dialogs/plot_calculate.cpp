@@ -94,7 +94,9 @@ const char* description_of(int calculation) {
 
 // --- The functions
 
-std::string slot_name(int slot) { return function_slot_name(plot_variables.plotType * PLOT_SLOT_COUNT + slot); }
+std::string slot_name(int slot) {
+  return function_slot_name(plot_variables.plotType * PLOT_SLOT_COUNT + slot);
+}
 
 std::vector<std::string> function_rows() {
   const int stride = slots_per_plot(plot_variables.plotType);
@@ -148,7 +150,8 @@ class TCalculateForm {
     const bool crosses = shown == CALCULATE_INTERSECTION;
     dialog[DESCRIPTION].text = description_of(shown);
     dialog[FUNCTION].label = crosses ? "Functions:" : "Function:";
-    set_rows(dialog[FUNCTION], crosses ? pair_rows() : function_rows(), crosses ? choice_.pair : choice_.function);
+    set_rows(dialog[FUNCTION], crosses ? pair_rows() : function_rows(),
+             crosses ? choice_.pair : choice_.function);
     dialog[FUNCTION].visible = calculations[shown].needs_function;
     dialog[VALUE].visible = calculations[shown].needs_value;
   }
