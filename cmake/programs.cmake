@@ -10,6 +10,9 @@ function(zephyl_program program driver)
   target_link_libraries(${program} PRIVATE zephyl_${driver}_driver)
 endfunction()
 
+# What the drivers of one system have in common.
+zephyl_driver(posix)
+
 # Commands on standard input; zlib packs its PNG files.
 find_package(ZLIB REQUIRED)
 zephyl_driver(script ZLIB::ZLIB)
@@ -18,15 +21,16 @@ zephyl_program(zephyl-script script)
 # Expressions in a terminal, with line editing by GNU readline.
 find_path(READLINE_INCLUDE readline/readline.h REQUIRED)
 find_library(READLINE_LIBRARY readline REQUIRED)
-zephyl_driver(console ${READLINE_LIBRARY})
+zephyl_driver(console zephyl_posix_driver ${READLINE_LIBRARY})
 target_include_directories(zephyl_console_driver SYSTEM PRIVATE ${READLINE_INCLUDE})
 zephyl_program(zephyl-console console)
 
 # The window.
 if(ZEPHYL_WINDOW)
   find_package(Qt6 REQUIRED COMPONENTS Widgets)
-  zephyl_driver(desktop Qt6::Widgets)
+  zephyl_driver(desktop zephyl_posix_driver Qt6::Widgets)
   # Without it Qt makes macros of common words such as "slots".
   target_compile_definitions(zephyl_desktop_driver PUBLIC QT_NO_KEYWORDS)
   zephyl_program(zephyl desktop)
+  add_dependencies(zephyl zephyl-help)
 endif()

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "fuzz_calculator.h"
+#include "fuzz_folder.h"
 #include "platform/events.h"
 #include "programs/interpreter.h"
 #include "programs/program.h"
@@ -16,7 +17,6 @@
 #include "programs/program_writer.h"
 #include "programs/programs.h"
 #include "programs/statement_text.h"
-#include "support/temporary_folder.h"
 
 namespace {
 
@@ -24,20 +24,6 @@ using namespace zephyl;
 
 constexpr int MOST_ROUNDS = 400;
 constexpr const char* NAME = "A";  // under which the program can call itself
-
-// A folder of this process for the file.
-void take_folder() {
-  static const TTemporaryFolder folder;
-  if (folder.path().empty()) std::abort();
-  fuzz_platform().folder = folder.path().string();
-}
-
-void write_bytes(const std::uint8_t* data, std::size_t size) {
-  std::FILE* const file = std::fopen(program_path(NAME).c_str(), "wb");
-  if (!file) std::abort();
-  std::fwrite(data, 1, size, file);
-  std::fclose(file);
-}
 
 // What was read must come back out of the file that is written from it.
 void must_write_itself() {
@@ -70,7 +56,7 @@ void run_bounded() {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   take_folder();
   start_once();
-  write_bytes(data, size);
+  write_bytes(program_path(NAME), data, size);
   forget_programs();
   clear_error();
   if (load_program(NAME, false) >= 0) {

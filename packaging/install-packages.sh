@@ -6,9 +6,11 @@ set -euo pipefail
 packages_for() {
   case "$1" in
     build) echo cmake ninja-build g++ zlib1g-dev libreadline-dev libfreetype-dev xfonts-base xfonts-terminus ;;
-    window) echo qt6-base-dev ;;
+    window) echo qt6-base-dev cmark-gfm ;;
     wayland) echo qt6-wayland ;;
-    tests) echo libgtest-dev libgsl-dev libboost-math-dev libeigen3-dev libpng-dev giflib-tools ;;
+    package) echo dpkg-dev file ;;
+    tests) echo libgtest-dev libgsl-dev libboost-math-dev libeigen3-dev libpng-dev giflib-tools $(packages_for package) \
+      lintian desktop-file-utils appstream mandoc man-db groff libxml2-utils shared-mime-info libglib2.0-bin ;;
     bench) echo libbenchmark-dev libmuparser-dev libgif-dev libeigen3-dev libgsl-dev libboost-math-dev ;;
     start-up) echo xvfb libxcb1-dev ;;
     fuzz) echo clang libclang-rt-14-dev ;;

@@ -2,11 +2,22 @@
 
 #include <unistd.h>
 
+#include "app/command_line.h"
 #include "app/start_up.h"
 #include "platform/console/console.h"
 #include "platform/platform.h"
 
-int main() {
+namespace {
+
+constexpr zephyl::TUsage USAGE = {"zephyl-console", "Computes the expressions that it reads, a line each.",
+                                  ""};
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  if (zephyl::answer_question(USAGE, count, arguments)) return 0;
+  std::vector<std::string> no_files;
+  if (!zephyl::read_files(USAGE, count, arguments, no_files)) return zephyl::USAGE_ERROR;
   const bool interactive = isatty(STDIN_FILENO) != 0;
   zephyl::TConsolePlatform platform(interactive);
   zephyl::set_platform(&platform);

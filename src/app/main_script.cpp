@@ -1,11 +1,21 @@
 // zephyl-script: the calculator driven by commands on standard input.
 
+#include "app/command_line.h"
 #include "app/start_up.h"
 #include "platform/platform.h"
 #include "platform/script/script.h"
 #include "platform/script/stdio_channel.h"
 
-int main() {
+namespace {
+
+constexpr zephyl::TUsage USAGE = {"zephyl-script", "Obeys commands on standard input, a line each.", ""};
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  if (zephyl::answer_question(USAGE, count, arguments)) return 0;
+  std::vector<std::string> no_files;
+  if (!zephyl::read_files(USAGE, count, arguments, no_files)) return zephyl::USAGE_ERROR;
   zephyl::TScriptPlatform platform;
   zephyl::set_platform(&platform);
   zephyl::register_families();

@@ -27,6 +27,8 @@ struct TKeptState {
 TKeptState kept;
 TStores kept_stores;
 TSettings kept_settings;
+TEntryLine kept_line;
+THistory kept_history;
 bool has_kept = false;
 bool has_kept_all = false;
 
@@ -75,6 +77,8 @@ void back_up_for(const TCompiled& compiled) {
   if (!has_kept || std::none_of(compiled.steps, compiled.steps + compiled.count, reaches_stores)) return;
   copy_stores(kept_stores, stores);
   kept_settings = settings;
+  kept_line = entry_line;
+  kept_history = history;
   for (int i = 0; i < backup_count; ++i) backups[i].save();
   has_kept_all = true;
 }
@@ -91,6 +95,8 @@ void bring_back_state() {
 void bring_back_all() {
   copy_stores(stores, kept_stores);
   settings = kept_settings;
+  entry_line = kept_line;
+  history = kept_history;
   for (int i = 0; i < backup_count; ++i) backups[i].restore();
 }
 

@@ -11,7 +11,7 @@ struct TCompiled;
 // Puts away what any evaluation changes: memories, answers, errors, function slots, the state record. To be
 // called before the expression is compiled, which stores into function slots.
 void back_up();
-// Puts away also all that stores and commands reach, if the expression has any.
+// Puts away also all that stores and commands reach, the entry line and its history among it, if the expression has any.
 void back_up_for(const TCompiled& compiled);
 // Brings back what is put away; nothing if nothing is.
 void bring_back();

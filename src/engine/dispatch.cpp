@@ -159,9 +159,10 @@ void read_operands(TStepRun& run) {
 void run_step(TStepRun& run) {
   const TStep& step = run.step;
   read_operands(run);
-  if (errors.error_flag) return;
+  // What can't be read counts as 0 here: where a dry pass forgives the error, no argument and no element may be missing.
   if (step.op == OP_COMMA) return run_comma(run);
   if (step.op >= OP_LIST_FIRST_COMMA && step.op <= OP_STRING_SINGLE) return run_literal_step(run);
+  if (errors.error_flag) return;
   if (is_function_kind(step.arg_kind) && !check_arguments(run)) return;
   if (step.op == OP_FUNC1 || step.op == OP_FUNC2) return;
   if (step.op == OP_TO_HMS && !run.last) return report_error(ERR_TO_HMS_NOT_LAST);

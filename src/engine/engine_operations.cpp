@@ -3,6 +3,7 @@
 #include "engine/hooks.h"
 #include "engine/memory.h"
 #include "engine/operations.h"
+#include "engine/state.h"
 
 namespace zephyl {
 
@@ -12,8 +13,8 @@ double convert(double x, const TUnit& from, const TUnit& to) {
   return (x - from.offset) * (from.factor / to.factor) + to.offset;
 }
 
-// Offsets apply to both parts: unless the result must stay real, 0 degrees Celsius have an imaginary part in
-// kelvin.
+// Offsets apply to both parts: 0 degrees Celsius have an imaginary part in kelvin. With real results there is none, nor
+// in a plot.
 void run_conversion(TScalarCall& call) {
   const TStep& step = *call.step;
   const int to_code =
@@ -22,8 +23,8 @@ void run_conversion(TScalarCall& call) {
   const TUnit* to = hooks.unit_by_code(to_code);
   call.result = call.args[0];
   if (!from || !to) return;
-  call.result.re = convert(call.args[0].re, *from, *to);
-  if (!call.stay_real) call.result.im = convert(call.args[0].im, *from, *to);
+  const bool real_only = settings.complexFormat == ST_REAL || call.plotting;
+  call.result = {convert(call.args[0].re, *from, *to), real_only ? 0.0 : convert(call.args[0].im, *from, *to)};
 }
 
 void run_clr_mem(TScalarCall& call) {

@@ -56,6 +56,7 @@ inline bool run_real_rule(const TStep& step, TRealUse allowed) {
 struct TOutcome {
   bool repeat = false;
   bool stop_on_error = false;
+  bool made_list = false;
 };
 
 TOutcome run_general(const TWalk& walk, const TStep& step) {
@@ -64,7 +65,7 @@ TOutcome run_general(const TWalk& walk, const TStep& step) {
   run_step(run);
   if (is_function_kind(step.arg_kind) && step.arg_kind < KIND_CALL_WITH_ARGUMENTS)
     func_frames[step.frame].count = 0;
-  return {run.repeat, run.stop_on_error};
+  return {run.repeat, run.stop_on_error, run.made_list};
 }
 
 // A whole list of steps on plain numbers: no frames, no bodies, one look at the clock.
@@ -94,11 +95,11 @@ void abandon_operator(TNumericState& numeric) {
 }
 
 // True if the error ends the walk. In a dry pass it is forgiven, or stands while the walk goes on; the step's
-// value is 0.
+// value is 0, or the list as far as it came.
 bool error_ends_walk(const TStep& step, const TOutcome& outcome) {
   if (step.numeric_frame < 0 || numeric_states[step.numeric_frame].iterating || outcome.stop_on_error)
     return true;
-  set_number_result(step.result, {});
+  if (!outcome.made_list) set_number_result(step.result, {});
   if (stands_in_dry_pass(errors.error_code)) return false;
   clear_error();
   if (step.arg_kind == KIND_NUMERIC) abandon_operator(numeric_states[step.frame]);

@@ -24,4 +24,14 @@ inline bool fault_raised() {
 // Reports the raised fault (zero divide before overflow before invalid) and clears it. False if there was none.
 bool report_fault();
 
+// What the function makes of the arguments, called so that the compiler can't see into it; its fault is reported.
+template <class TResult, class... TParameters>
+TResult reporting_faults(TResult (*function)(TParameters...), TParameters... arguments) {
+  clear_faults();
+  TResult (*volatile opaque)(TParameters...) = function;
+  const TResult result = opaque(arguments...);
+  report_fault();
+  return result;
+}
+
 }  // namespace zephyl

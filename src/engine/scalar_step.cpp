@@ -102,7 +102,7 @@ void run_number_operation(TStepRun& run, TScalarCall& call) {
 }
 
 // Element by element into the register's list. An operand may be that very list: each element is read before
-// it is written.
+// it is written. An error leaves zeros from its element on.
 void map_elements(TStepRun& run) {
   TListOperands operands;
   if (!read_lists(run, operands)) return;
@@ -113,12 +113,13 @@ void map_elements(TStepRun& run) {
     for (int i = 0; i < run.count; ++i)
       if (operands.lists[i]) run.args[i].value = operands.lists[i]->elements[element];
     run.all_real = all_real_at(run, run.count);
-    run_number_operation(run, call);
-    if (errors.error_flag) return;
+    call.result = {};
+    if (!errors.error_flag) run_number_operation(run, call);
     if (!call.keeps_register) result->elements[element] = call.result;
   }
   poll_budget -= operands.last;
   if (call.keeps_register) return;
+  run.made_list = true;
   result->last = operands.last;
   result->defined = true;
 }

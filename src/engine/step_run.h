@@ -19,6 +19,7 @@ struct TStepRun {
   bool all_real = true;  // no argument of a function is a complex number
   bool repeat = false;
   bool stop_on_error = false;
+  bool made_list = false;  // the register has its list, whatever the error
 };
 
 // Runs the step; leaves its value in its register or reports an error.

@@ -21,7 +21,9 @@
 #include "faceplate/screens.h"
 #include "faceplate/title.h"
 #include "numerics/random.h"
+#include "persistence/constant_dialogs.h"
 #include "persistence/constants.h"
+#include "persistence/conversion_dialog.h"
 #include "persistence/settings.h"
 #include "platform/platform.h"
 #include "plot/drawing.h"
@@ -55,6 +57,8 @@ void reset_all() {
   reset_editor();
   reset_statement_dialogs();
   reset_edit_program_dialog();
+  reset_constant_dialogs();
+  reset_conversion_dialog();
   histogram = {};
   forget_key_feedback();
 }
@@ -85,7 +89,8 @@ void on_stop() {
 
 void on_pen_down(int x, int y) {
   state.swallow_up = false;
-  if (!state.alpha_active) cursor_to_tap(x, y);
+  const bool program_works = state.program_running && !state.at_prompt;
+  if (!state.alpha_active && !program_works) cursor_to_tap(x, y);
   if (!state.alpha_active && state.calcMode == PROGRAM_EDIT_MODE) select_tapped_statement(x, y);
   if (!state.alpha_active && plot_pen_down(x, y)) return;
   handle_faceplate_input(x, y, -1, -1);

@@ -55,6 +55,12 @@ bool has_run_key() {
   return state.calcMode == BASE_MODE || state.calcMode == COMP_MODE || state.calcMode == STATS_MODE;
 }
 
+void end_shifts(bool needs_repaint) {
+  if (!state.blue_shift && !state.orange_shift) return;
+  state.blue_shift = state.orange_shift = false;
+  if (!needs_repaint) redraw_part(PART_SHIFTS);
+}
+
 // Any key ends the pause of a program, but for those that work through it. The run key stops the program
 // while it still stands at its pause.
 bool ends_pause(int key, const KeyRect& rect) {
@@ -63,6 +69,7 @@ bool ends_pause(int key, const KeyRect& rect) {
   bool needs_repaint = false;
   if (key == RUN_KEY && has_run_key()) do_key(needs_repaint, key);
   state.key_wait = false;
+  end_shifts(needs_repaint);  // a typed brace has set one
   return true;
 }
 
@@ -73,14 +80,8 @@ void take_token(int token) {
   insert_token(false, static_cast<TToken>(token));
 }
 
-void end_shifts(bool needs_repaint) {
-  if (!state.blue_shift && !state.orange_shift) return;
-  state.blue_shift = state.orange_shift = false;
-  if (!needs_repaint) redraw_part(PART_SHIFTS);
-}
-
 void take_result(int result, bool needs_repaint) {
-  if (result >= 0) take_token(result);
+  if (result >= 0 && !program_works()) take_token(result);
   if (result != KEY_CONSUMED) end_shifts(needs_repaint);
 }
 
@@ -93,7 +94,7 @@ int decode(int key, bool typed, bool& needs_repaint) {
 void press_key(int key, bool typed) {
   bool needs_repaint = false;
   const int result = decode(key, typed, needs_repaint);
-  if (!program_works()) take_result(result, needs_repaint);
+  take_result(result, needs_repaint);
   if (needs_repaint) platform().invalidate(false);
 }
 

@@ -19,9 +19,12 @@ enum { NAME_COMBO = 0, VALUE_TEXT = 1, ELEMENTS_BUTTON = 2, ACTION_COMBO = 2 };
 enum { ADD_ROW = 0, DELETE_ROW = 1 };
 constexpr int ELEMENTS_RESULT = -2;
 
-int last_selected = 0;
-int last_edited = 0;
-int last_action = ADD_ROW;
+struct TLast {
+  int selected = 0;
+  int edited = 0;
+  int action = ADD_ROW;
+};
+TLast last;
 
 std::vector<std::string> constant_names() {
   std::vector<std::string> names;
@@ -57,7 +60,7 @@ void answer_select_dialog(TDialog& dialog, const TDialogEvent& event) {
 
 TConstantChoice select_constant(std::string& value) {
   TDialog dialog(SELECT_DIALOG, "Select Constant");
-  add_constant_controls(dialog, last_selected);
+  add_constant_controls(dialog, last.selected);
   dialog.add(button_control("Elements"));
   add_ok_cancel(dialog);
   dialog.procedure = answer_select_dialog;
@@ -65,7 +68,7 @@ TConstantChoice select_constant(std::string& value) {
   if (dialog.result() == ELEMENTS_RESULT) return CONSTANT_ELEMENTS;
   const int selected = dialog[NAME_COMBO].selected;
   if (dialog.result() == DIALOG_CANCELLED || selected < 0) return CONSTANT_CANCELLED;
-  last_selected = selected;
+  last.selected = selected;
   value = constant_value(selected);
   return CONSTANT_CHOSEN;
 }
@@ -79,17 +82,19 @@ TConstantChoice insert_selected_constant() {
 
 bool edit_constants() {
   TDialog dialog(EDIT_DIALOG, "Edit Constant");
-  add_constant_controls(dialog, last_edited);
-  dialog.add(combo_control("Action:", {"Add Constant", "Delete Constant"}, last_action));
+  add_constant_controls(dialog, last.edited);
+  dialog.add(combo_control("Action:", {"Add Constant", "Delete Constant"}, last.action));
   add_ok_cancel(dialog);
   dialog.procedure = show_value;
   platform().run_dialog(dialog);
   if (dialog.result() == DIALOG_CANCELLED) return false;
-  last_edited = std::max(dialog[NAME_COMBO].selected, 0);
-  last_action = dialog[ACTION_COMBO].selected;
-  if (last_action == DELETE_ROW && last_edited < constant_count())
-    delete_constant(constant_name(last_edited));
-  return last_action == ADD_ROW;
+  last.edited = std::max(dialog[NAME_COMBO].selected, 0);
+  last.action = dialog[ACTION_COMBO].selected;
+  if (last.action == DELETE_ROW && last.edited < constant_count())
+    delete_constant(constant_name(last.edited));
+  return last.action == ADD_ROW;
 }
+
+void reset_constant_dialogs() { last = {}; }
 
 }  // namespace zephyl

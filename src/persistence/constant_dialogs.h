@@ -21,4 +21,6 @@ TConstantChoice insert_selected_constant();
 // to be typed, and its unit, for add_constant.
 bool edit_constants();
 
+void reset_constant_dialogs();
+
 }  // namespace zephyl

@@ -89,4 +89,6 @@ void insert_selected_conversion() {
   if (select_conversion(from, position)) insert_conversion(from, position);
 }
 
+void reset_conversion_dialog() { last_rows = {}; }
+
 }  // namespace zephyl

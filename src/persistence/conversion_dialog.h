@@ -10,4 +10,6 @@ bool select_conversion(int& from, int& position);
 // The key and the menu row: the chosen conversion goes into the expression.
 void insert_selected_conversion();
 
+void reset_conversion_dialog();
+
 }  // namespace zephyl

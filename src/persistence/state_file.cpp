@@ -21,12 +21,6 @@ namespace {
 
 constexpr const char* EXTENSION = ".state";
 
-std::string name_of(const std::string& path) { return path.substr(path.rfind('/') + 1); }
-
-std::string with_extension(const std::string& path) {
-  return name_of(path).find(EXTENSION) == std::string::npos ? path + EXTENSION : path;
-}
-
 // An empty line is the end, wherever it stands.
 void read_records(TLineReader& reader) {
   for (std::string line; !(line = reader.read_line()).empty();) {
@@ -85,7 +79,7 @@ bool choose_state_file(bool open) {
   if (open)
     load_state(path.c_str());
   else
-    save_state(with_extension(path).c_str());
+    save_state(path_to_save(question, path).c_str());
   return true;
 }
 

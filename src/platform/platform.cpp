@@ -18,6 +18,12 @@ void TSilentPlatform::run_dialog(TDialog& dialog) {
   cancel_dialog(dialog);
 }
 
+std::string path_to_save(const TFileQuestion& question, const std::string& chosen) {
+  const std::string ending = std::string(".") + question.extension;
+  const std::string name = chosen.substr(chosen.rfind('/') + 1);
+  return name.find(ending) == std::string::npos ? chosen + ending : chosen;
+}
+
 TPlatform& platform() { return *current_platform; }
 
 void set_platform(TPlatform* platform) { current_platform = platform ? platform : &silent_platform; }

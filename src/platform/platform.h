@@ -20,6 +20,9 @@ struct TFileQuestion {
   bool save = false;           // else an existing file is opened
 };
 
+// The path of a file to save, as chosen: the extension is appended unless the file's name holds it somewhere.
+std::string path_to_save(const TFileQuestion& question, const std::string& chosen);
+
 struct TLocalTime {
   int year = 2024;
   int month = 1;  // 1 to 12

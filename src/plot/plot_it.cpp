@@ -18,6 +18,7 @@
 #include "plot/plot_points.h"
 #include "plot/plot_screen.h"
 #include "plot/surface_plot.h"
+#include "plot/zoom_locks.h"
 
 namespace zephyl {
 
@@ -128,6 +129,7 @@ void register_plot() {
   register_backup_of<&plot_variables>();
   register_backup_of<&trace_functions>();
   register_backup_of<&drawing>();
+  register_backup_of<&zoom_locks>();
   static TSurface layer(PLOT_WIDTH, PLOT_HEIGHT);
   register_backup({[] { layer = drawing_bitmap(); }, [] { drawing_bitmap() = layer; }});
 }

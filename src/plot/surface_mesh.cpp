@@ -13,9 +13,10 @@ namespace zephyl {
 
 namespace {
 
-// 0.02 of the range gives 51 samples.
+// 0.02 of the range gives 51 samples. A range wider than any number has none, and its step stays.
 void limit_step(TPlotRange& range) {
   const double width = range.max - range.min;
+  if (!std::isfinite(width)) return;
   const double least = 0.02 * width;
   if (!(range.step >= least && range.step <= width)) range.step = least;
 }

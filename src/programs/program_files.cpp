@@ -23,11 +23,6 @@ std::string file_name(std::string name) {
   return name;
 }
 
-std::string program_name(std::string file) {
-  std::replace(file.begin(), file.end(), SEPARATOR_IN_FILES, SEPARATOR);
-  return file;
-}
-
 char folded(char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); }
 
 // Names that differ in case alone keep an order of their own.
@@ -55,6 +50,12 @@ std::string output_path(const std::string& name) {
   return data_file_path(file_name(name), OUTPUT_EXTENSION, false);
 }
 
+std::string program_name_of(const std::string& file) {
+  std::string name = file;
+  std::replace(name.begin(), name.end(), SEPARATOR_IN_FILES, SEPARATOR);
+  return name;
+}
+
 bool program_exists(const std::string& name) { return file_exists(program_path(name)); }
 
 bool delete_program(const std::string& name) { return file_calls.remove(program_path(name).c_str()) == 0; }
@@ -68,7 +69,7 @@ std::vector<std::string> program_names() {
     std::error_code ignored;
     if (entry->path().extension() != std::string(".") + EXTENSION || !entry->is_regular_file(ignored))
       continue;
-    names.push_back(program_name(entry->path().stem().string()));
+    names.push_back(program_name_of(entry->path().stem().string()));
   }
   std::sort(names.begin(), names.end(), comes_first);
   return names;

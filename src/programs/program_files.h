@@ -12,6 +12,9 @@ std::string program_path(const std::string& name);
 // Likewise the file that `fout` statements of the program write.
 std::string output_path(const std::string& name);
 
+// The name of the program whose file has that name, which comes without folder and extension.
+std::string program_name_of(const std::string& file);
+
 bool program_exists(const std::string& name);
 // Removes the file; false if that can't be done.
 bool delete_program(const std::string& name);

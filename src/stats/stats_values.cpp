@@ -117,13 +117,9 @@ bool has_regression_data() {
   return !errors.error_flag;
 }
 
-// The computation is called through a pointer that the compiler can't see into, so that its faults are read
-// after it.
 double without_fault(TFunction function) {
-  clear_faults();
-  volatile TFunction opaque = function;
-  const double value = opaque();
-  return report_fault() || errors.error_flag ? 0.0 : value;
+  const double value = reporting_faults(function);
+  return errors.error_flag ? 0.0 : value;
 }
 
 }  // namespace

@@ -70,10 +70,13 @@ std::vector<TIncludeLine> all_includes(const fs::path& root) {
   return includes;
 }
 
+// What drivers of the same system have in common.
+constexpr const char* COMMON_DRIVER_FOLDER = "posix";
+
 // A driver may ask anything but the programs that are built with it, and it knows no other driver.
 bool allowed_in_driver(const std::string& driver, const std::string& target) {
   const std::string other = driver_of(target);
-  return folder_of(target) != "app" && (other.empty() || other == driver);
+  return folder_of(target) != "app" && (other.empty() || other == driver || other == COMMON_DRIVER_FOLDER);
 }
 
 bool allowed(const TIncludeLine& include) {
@@ -146,6 +149,8 @@ TEST(include_arrows, a_driver_includes_neither_programs_nor_another_driver) {
   EXPECT_TRUE(allowed(line_of("platform/script/script.cpp", "#include \"engine/state.h\"")));
   EXPECT_FALSE(allowed(line_of("platform/script/script.cpp", "#include \"app/start_up.h\"")));
   EXPECT_FALSE(allowed(line_of("platform/script/script.cpp", "#include \"platform/console/console.h\"")));
+  EXPECT_TRUE(allowed(line_of("platform/console/console.cpp", "#include \"platform/posix/folders.h\"")));
+  EXPECT_FALSE(allowed(line_of("platform/posix/folders.cpp", "#include \"platform/console/console.h\"")));
 }
 
 TEST(include_arrows, only_a_program_includes_a_driver) {

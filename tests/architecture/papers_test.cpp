@@ -1,19 +1,17 @@
 // The papers name files; each file that they name must be there.
 
+#include "architecture/papers.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <set>
-#include <sstream>
 #include <string>
 #include <vector>
 
 namespace {
 
 namespace fs = std::filesystem;
-
-const fs::path ROOT = SOURCE_FOLDER;
 
 bool ends_with(const std::string& text, const std::string& end) {
   return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
@@ -35,12 +33,6 @@ std::vector<fs::path> papers() {
   for (const fs::directory_entry& entry : fs::recursive_directory_iterator(ROOT / "docs"))
     if (entry.path().extension() == ".md") found.push_back(entry.path());
   return found;
-}
-
-std::string text_of(const fs::path& path) {
-  std::ostringstream text;
-  text << std::ifstream(path).rdbuf();
-  return text.str();
 }
 
 // Words of a paper that are the name of a file, as they stand: "items.cpp", "docs/tour.md".

@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -25,16 +26,16 @@ namespace zephyl {
 
 namespace {
 
+constexpr int SMALLEST_FILE = 0;  // of the qualities of a PNG
+
 QString file_of(const QString& folder, const QString& name, int scale) {
   return folder + "/" + name + (scale == 1 ? "" : QString("@%1x").arg(scale)) + ".png";
 }
 
-// Written once however often it opens.
 void write_pictures(const QString& folder, const QString& name, TDialog& dialog) {
   for (const int scale : {1, 2}) {
     const QString path = file_of(folder, name, scale);
-    if (QFile::exists(path)) continue;
-    if (!dialog_picture(dialog, scale).save(path))
+    if (!dialog_picture(dialog, scale).save(path, "PNG", SMALLEST_FILE))
       std::fprintf(stderr, "cannot write %s\n", qPrintable(path));
   }
 }
@@ -49,7 +50,11 @@ QString name_of(const TDialog& dialog) {
 class TPicturePlatform : public TScriptPlatform {
  public:
   explicit TPicturePlatform(QString folder) : folder_(std::move(folder)) {}
-  void before_dialog(TDialog& dialog) override { write_pictures(folder_, name_of(dialog), dialog); }
+  // Each is drawn once, however often it opens and under whatever title.
+  void before_dialog(TDialog& dialog) override {
+    const QStringList drawn = QDir(folder_).entryList({QString("%1-*.png").arg(dialog.id())});
+    if (drawn.isEmpty()) write_pictures(folder_, name_of(dialog), dialog);
+  }
 
  private:
   QString folder_;

@@ -25,7 +25,7 @@ class conversion : public ::testing::Test {
     };
   }
 
-  static TValue convert(int from, int to, TValue value, bool by_position = false, bool stay_real = true) {
+  static TValue convert(int from, int to, TValue value, bool by_position = false) {
     TStep step;
     step.unit_from = static_cast<std::uint16_t>(from);
     step.unit_to = static_cast<std::uint16_t>(to);
@@ -34,7 +34,6 @@ class conversion : public ::testing::Test {
     call.op = OP_CONVERSION;
     call.args[0] = value;
     call.count = 1;
-    call.stay_real = stay_real;
     call.step = &step;
     operations[OP_CONVERSION].scalar(call);
     return call.result;
@@ -66,15 +65,17 @@ TEST_F(conversion, leaves_a_number_with_an_unknown_unit) {
   EXPECT_EQ(convert(CELSIUS, 3, {3, 4}, true), (TValue{3, 4}));
 }
 
-TEST_F(conversion, keeps_real_numbers_real_under_real_display) {
+TEST_F(conversion, has_no_imaginary_part_under_real_display) {
   EXPECT_EQ(convert(CELSIUS, KELVIN, {0, 0}).im, 0.0);
+  EXPECT_EQ(convert(FOOT, METRE, {100, -10}).im, 0.0);
 }
 
 TEST_F(conversion, converts_both_parts_under_complex_display) {
-  const TValue zero = convert(CELSIUS, KELVIN, {0, 0}, false, false);
+  settings.complexFormat = ST_COMPLEX_R;
+  const TValue zero = convert(CELSIUS, KELVIN, {0, 0});
   EXPECT_DOUBLE_EQ(zero.re, 273.15);
   EXPECT_DOUBLE_EQ(zero.im, 273.15);
-  const TValue length = convert(FOOT, METRE, {100, -10}, false, false);
+  const TValue length = convert(FOOT, METRE, {100, -10});
   EXPECT_DOUBLE_EQ(length.re, 30.48);
   EXPECT_DOUBLE_EQ(length.im, -3.048);
 }

@@ -1,17 +1,18 @@
 #include "faceplate/catalog/catalog_text.h"
 
-#include <cmath>
+#include <sys/stat.h>
+
 #include <cstdio>
-#include <set>
 
 #include "engine/expression.h"
-#include "engine/records.h"
 #include "engine/state.h"
 #include "engine/tokens.h"
 #include "faceplate/catalog/function_catalog.h"
 #include "faceplate/catalog/variable_catalog.h"
 #include "faceplate/key_path.h"
 #include "support/calculator.h"
+#include "support/file_faults.h"
+#include "support/program_listing.h"
 
 namespace zephyl {
 
@@ -34,51 +35,12 @@ class catalog : public calculator {
   }
 };
 
-std::string number_text(double value) {
-  char text[40];
-  std::snprintf(text, sizeof text, "%.10g", value == 0.0 ? 0.0 : value);
-  return text;
-}
-
-std::string list_text(const ListRecord& list) {
-  std::string text = "{";
-  for (int i = 0; i <= list.last; ++i) text += (i > 0 ? "," : "") + number_text(list.elements[i].re);
-  return text + "}";
-}
-
-std::string matrix_text(const MatrixRecord& matrix) {
-  std::string text;
-  for (int row = 0; row <= matrix.last_row; ++row) {
-    text += "[";
-    for (int col = 0; col <= matrix.last_col; ++col)
-      text += (col > 0 ? "," : "") + number_text(matrix.cells[row][col]);
-    text += "]";
-  }
-  return text;
-}
-
-// What a result is called in the help.
-std::string shown_result(const std::string& line) {
-  if (line == "Result in List Answer") return list_text(stores.lists[ANSWER_RECORD]);
-  if (line == "Result in Matrix Answer") return matrix_text(stores.matrices[ANSWER_RECORD]);
-  return line;
-}
-
-std::vector<std::string> lines_of(const std::string& text) {
-  std::vector<std::string> lines;
-  for (std::size_t from = 0; from <= text.size();) {
-    const std::size_t end = std::min(text.find('\n', from), text.size());
-    lines.push_back(text.substr(from, end - from));
-    from = end + 1;
-  }
-  return lines;
-}
-
 TEST_F(catalog, has_228_functions_in_14_groups) {
   const int counts[] = {23, 8, 8, 20, 9, 13, 29, 26, 25, 23, 19, 8, 7, 10};
   ASSERT_EQ(catalog_functions().groups.size(), 14u);
   for (int group = 0; group < 14; ++group)
-    EXPECT_EQ(catalog_group(catalog_functions(), group).size(), static_cast<std::size_t>(counts[group])) << group;
+    EXPECT_EQ(catalog_group(catalog_functions(), group).size(), static_cast<std::size_t>(counts[group]))
+        << group;
   EXPECT_EQ(catalog_functions().rows.size(), 228u);
 }
 
@@ -86,7 +48,8 @@ TEST_F(catalog, has_66_variables_in_8_groups) {
   const int counts[] = {11, 17, 6, 6, 6, 9, 8, 3};
   ASSERT_EQ(catalog_variables().groups.size(), 8u);
   for (int group = 0; group < 8; ++group)
-    EXPECT_EQ(catalog_group(catalog_variables(), group).size(), static_cast<std::size_t>(counts[group])) << group;
+    EXPECT_EQ(catalog_group(catalog_variables(), group).size(), static_cast<std::size_t>(counts[group]))
+        << group;
   EXPECT_EQ(variable_rows(ALL_VARIABLES_GROUP).size(), 66u);
 }
 
@@ -100,28 +63,6 @@ TEST_F(catalog, every_token_means_something_and_every_row_has_help) {
       expression.count = 1;
       EXPECT_FALSE(std::string(token_text(expression, 0)).empty()) << row.text;
     }
-}
-
-// Examples that stand as they are: the money is exact only before the interest was rounded to three digits.
-const std::set<std::string> rounded_examples = {"tvmFV(360,6.007,200000,-1200,12,12)"};
-
-TEST_F(catalog, every_example_returns_what_its_help_says) {
-  platform_.now.weekday = 1;  // the first of January 2024 was a Monday
-  int examples = 0;
-  for (const TCatalogRow& row : catalog_functions().rows)
-    for (const std::string& line : lines_of(row.help)) {
-      const std::size_t word = line.find(" returns ");
-      if (word == std::string::npos || line.find('(') > word || line.find(' ') < word) continue;
-      const std::string call = line.substr(0, word);
-      if (rounded_examples.count(call)) continue;
-      EXPECT_EQ(shown_result(eval(call)), line.substr(word + 9)) << row.text << ": " << call;
-      ++examples;
-    }
-  EXPECT_GT(examples, 150);
-}
-
-TEST_F(catalog, a_rounded_example_is_right_to_its_digits) {
-  EXPECT_LT(std::fabs(value("tvmFV(360,6.007,200000,-1200,12,12)")), 10.0);
 }
 
 TEST_F(catalog, groups_are_sorted_without_regard_to_case_but_for_those_with_headings) {
@@ -183,6 +124,37 @@ TEST_F(catalog, without_custom_functions_a_note_says_how_to_get_some) {
   });
   EXPECT_EQ(select_function(), NO_FUNCTION_TOKEN);
   EXPECT_EQ(entry(), "");
+}
+
+// Custom functions are files of the data folder.
+class catalog_of_custom_functions : public catalog {
+ protected:
+  catalog_of_custom_functions() {
+    platform_.folder = folder_.path();
+    ::mkdir(folder_.file("programs").c_str(), 0777);
+    make_file(path_, program_file_from_listing("cube", {"func(a)", "a^(3)"}));
+  }
+
+  const TTestFolder folder_;
+  const std::string path_ = folder_.file("programs/cube.prgm");
+};
+
+TEST_F(catalog_of_custom_functions, one_is_called_with_its_arguments) {
+  EXPECT_EQ(choose(CUSTOM_FUNCTION_GROUP, "cube(value)"), NO_FUNCTION_TOKEN);
+  EXPECT_EQ(entry_line.expression.tokens[0], TOKEN_FUNC1);
+  EXPECT_EQ(entry(), "cube(");
+}
+
+TEST_F(catalog_of_custom_functions, one_whose_file_has_vanished_is_called_without) {
+  in_dialog([this](TDialog& dialog) {
+    choose_row(dialog, 0, CUSTOM_FUNCTION_GROUP);
+    EXPECT_EQ(dialog[1].rows, std::vector<std::string>{"cube(value)"});
+    ASSERT_EQ(std::remove(path_.c_str()), 0);
+    accept_dialog(dialog);
+  });
+  EXPECT_EQ(select_function(), NO_FUNCTION_TOKEN);
+  EXPECT_EQ(entry_line.expression.tokens[0], TOKEN_FUNC2);
+  EXPECT_EQ(entry(), "cube(");
 }
 
 TEST_F(catalog, the_list_and_matrix_screens_open_on_their_functions) {

@@ -192,6 +192,17 @@ TEST_F(items_to_clear, what_holds_data_can_be_cleared) {
   }
 }
 
+TEST_F(items_to_clear, a_drawing_without_a_coloured_pixel_is_none) {
+  eval("Circle(1000,1000,1)");
+  EXPECT_FALSE(enabled()[5]);
+  eval("Color(1,1,1)");
+  eval("Line(0,0,5,5)");
+  EXPECT_FALSE(enabled()[5]);
+  eval("Color(1,0,0)");
+  eval("Line(0,0,5,5)");
+  EXPECT_TRUE(enabled()[5]);
+}
+
 TEST_F(items_to_clear, expressions_in_slots) {
   function_slots[3].count = 1;
   EXPECT_TRUE(enabled()[4]);

@@ -120,6 +120,26 @@ TEST_F(key_path, a_key_ends_a_pause_and_does_nothing_else) {
   EXPECT_EQ(platform_.clicks, 1);
 }
 
+TEST_F(key_path, a_typed_brace_leaves_no_shift_behind) {
+  state.key_wait = true;
+  type("{");
+  EXPECT_FALSE(state.key_wait);
+  EXPECT_FALSE(state.blue_shift);
+  state.program_running = true;
+  type("}");
+  EXPECT_FALSE(state.blue_shift);
+  state.program_running = false;
+  tap_key(33);
+  EXPECT_EQ(codes(), "33");
+}
+
+TEST_F(key_path, a_tap_on_the_line_moves_no_cursor_while_a_program_works) {
+  tap_keys({33, 36, 33});
+  state.program_running = true;
+  on_pen_down(7, 15);
+  EXPECT_EQ(entry_line.cursor, 3);
+}
+
 TEST_F(key_path, tabs_and_scrolling_leave_a_pause_standing) {
   state.key_wait = true;
   tap_keys({43, 44, 50, 51});

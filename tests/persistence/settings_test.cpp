@@ -13,6 +13,7 @@
 #include "platform/events.h"
 #include "support/calculator.h"
 #include "support/file_faults.h"
+#include "support/whole_state.h"
 #include "tools/tvm_state.h"
 
 namespace zephyl {
@@ -324,6 +325,55 @@ TEST_F(settings_file, reads_any_bytes) {
   EXPECT_EQ(settings.skin, 0) << "a line that is too long ends the file";
   load(std::string("skin: 1"));
   EXPECT_EQ(settings.skin, 1) << "the last line needs no end";
+}
+
+// --- Damaged files: whatever they say, the settings are some that there are.
+
+TEST_F(settings_file, cut_at_each_byte) {
+  save_settings();
+  const std::string whole = content();
+  for (std::size_t size = 0; size <= whole.size(); ++size) {
+    load(whole.substr(0, size));
+    ASSERT_EQ(calculator_fault(), "") << "cut at " << size;
+  }
+}
+
+TEST_F(settings_file, with_each_byte_changed) {
+  save_settings();
+  const std::string whole = content();
+  for (const char byte : {'\0', '\r', '9', ':', '-', 'e', '\xFF'}) {
+    for (std::size_t at = 0; at < whole.size(); ++at) {
+      std::string changed = whole;
+      changed[at] = byte;
+      load(changed);
+      ASSERT_EQ(calculator_fault(), "") << "byte " << at << " changed to " << static_cast<int>(byte);
+    }
+  }
+}
+
+TEST_F(settings_file, of_a_million_characters_or_a_hundred_thousand_lines) {
+  for (const char* start : {"skin: ", "TVM_n: ", "format: ", ""}) {
+    load(start + std::string(1000000, '9') + "\r\n");
+    ASSERT_EQ(calculator_fault(), "") << start;
+  }
+  std::string lines;
+  for (int i = 0; i < 100000; ++i) lines += "key" + std::to_string(i) + ": 1\r\n";
+  load(lines + "skin: 1\r\n");
+  EXPECT_EQ(settings.skin, 1);
+  EXPECT_EQ(calculator_fault(), "");
+}
+
+TEST_F(settings_file, with_line_feeds_only_or_in_two_byte_characters) {
+  save_settings();
+  std::string line_feeds, wide;
+  for (const char c : content()) {
+    if (c != '\r') line_feeds += c;
+    wide += std::string(1, c) + std::string(1, '\0');
+  }
+  for (const std::string& text : {line_feeds, wide, "\xEF\xBB\xBF" + content()}) {
+    load(text);
+    EXPECT_EQ(calculator_fault(), "");
+  }
 }
 
 }  // namespace

@@ -99,6 +99,8 @@ TEST_F(units, lengths_areas_and_masses_convert) {
 TEST_F(units, an_imaginary_part_converts_only_where_results_may_be_complex) {
   eval("0(C>K)");
   EXPECT_EQ(answers.ans.im, 0.0);
+  eval("(1+2(i))(ft>m)");
+  EXPECT_EQ(answers.ans.im, 0.0);
   settings.complexFormat = ST_COMPLEX_R;
   eval("0(C>K)");
   EXPECT_EQ(answers.ans.re, 273.15);

@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSlider>
 #include <QTableView>
 #include <algorithm>
@@ -242,6 +243,30 @@ TEST_F(dialog_window, enter_is_the_default_button_from_any_field) {
   EXPECT_TRUE(dialog().closed());
   EXPECT_EQ(dialog().result(), 0);
   EXPECT_FALSE(window_->isVisible());
+}
+
+TEST_F(dialog_window, enter_in_a_field_presses_nothing_where_no_button_is_the_default) {
+  open(of({edit_control("N", ""), button_control("Solve N"), button_control("Exit", BUTTON_CANCEL)}));
+  events_.clear();
+  window_->widget_of(0)->setFocus();
+  press(Qt::Key_Return);
+  EXPECT_TRUE(events_.empty());
+  EXPECT_FALSE(widget<QPushButton>(1)->isDefault());
+  window_->widget_of(1)->setFocus();
+  press(Qt::Key_Return);
+  ASSERT_EQ(events_.size(), 1u);
+  EXPECT_EQ(events_[0].control, 1);
+}
+
+TEST_F(dialog_window, a_table_wider_than_its_window_shows_all_its_lines) {
+  std::vector<TColumn> columns;
+  for (int i = 0; i < 30; ++i) columns.push_back({"Column", 90});
+  TControl table = table_control("Table:", columns, rows(50));
+  table.lines = 9;
+  open(of({table}));
+  auto* view = widget<QTableView>(0);
+  ASSERT_TRUE(view->horizontalScrollBar()->isVisible());
+  EXPECT_GE(view->viewport()->height(), 9 * view->rowHeight(0));
 }
 
 TEST_F(dialog_window, escape_and_closing_are_cancel) {

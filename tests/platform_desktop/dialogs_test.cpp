@@ -238,6 +238,34 @@ TEST_F(desktop_dialogs, a_file_is_asked_for_with_its_type) {
   EXPECT_EQ(QString::fromStdString(path), QDir(folder_.path()).absoluteFilePath("mine.state"));
 }
 
+TEST_F(desktop_dialogs, replacing_a_file_is_asked_for_the_name_that_will_be_written) {
+  const QString existing = QDir(folder_.path()).absoluteFilePath("my.plot.state");
+  QFile(existing).open(QIODevice::WriteOnly);
+  QFile(QDir(folder_.path()).absoluteFilePath("my.plot")).open(QIODevice::WriteOnly);
+  TFileQuestion question;
+  question.title = "Save State";
+  question.type_name = "State Files";
+  question.extension = "state";
+  question.save = true;
+  const auto accept_name = [] {
+    auto* box = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_TRUE(box);
+    box->findChild<QLineEdit*>("fileNameEdit")->setText("my.plot");
+    QMetaObject::invokeMethod(box, "accept");
+  };
+  const auto answer = [](QMessageBox::StandardButton button) {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_TRUE(box);
+    EXPECT_TRUE(box->text().startsWith("my.plot.state already exists.")) << qPrintable(box->text());
+    box->button(button)->click();
+  };
+  std::string path;
+  // After a No the question for the file is there again.
+  plan({accept_name, [&] { answer(QMessageBox::No); }, accept_name, [&] { answer(QMessageBox::Yes); }});
+  EXPECT_TRUE(platform_->choose_file(question, path));
+  EXPECT_EQ(QString::fromStdString(path), existing);
+}
+
 TEST_F(desktop_dialogs, a_file_that_is_not_chosen_leaves_the_path) {
   TFileQuestion question;
   std::string path = "before";

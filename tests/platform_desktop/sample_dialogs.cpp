@@ -56,6 +56,17 @@ TDialog variable_sample() {
   return dialog;
 }
 
+// A string variable may hold a thousand characters.
+TDialog string_sample() {
+  std::string row = "str1: ";
+  while (row.size() < 1000) row += "and one more line of the poem, ";
+  TDialog dialog(157, "Select Variable");
+  dialog.add(combo_control("Variable:", {row, "str2: short"}));
+  dialog.add(list_control("The same:", {row, "str2: short"}));
+  add_ok_cancel(dialog);
+  return dialog;
+}
+
 TDialog table_sample(int rows) {
   TDialog dialog(169, "Stats List");
   std::vector<std::string> lines;
@@ -192,6 +203,7 @@ TDialog long_sample() {
 std::vector<std::pair<std::string, std::function<TDialog()>>> sample_dialogs() {
   return {{"setup", setup_sample},
           {"variable", variable_sample},
+          {"string", string_sample},
           {"table", [] { return table_sample(2000); }},
           {"program", [] { return program_sample(12); }},
           {"programs", [] { return program_sample(60); }},

@@ -12,6 +12,7 @@ namespace zephyl {
 
 TDialog setup_sample();
 TDialog variable_sample();
+TDialog string_sample();
 TDialog table_sample(int rows);
 TDialog program_sample(int programs);
 TDialog colour_sample();

@@ -3,13 +3,16 @@
 #include "plot/custom_function.h"
 
 #include "engine/errors.h"
+#include "engine/expression.h"
 #include "engine/memory.h"
 #include "engine/records.h"
 #include "engine/state.h"
 #include "engine/system_variables.h"
 #include "plot/drawing.h"
 #include "plot/plotting.h"
+#include "plot/zoom_locks.h"
 #include "stats/stats.h"
+#include "support/file_faults.h"
 
 namespace zephyl {
 namespace {
@@ -131,6 +134,21 @@ TEST_F(custom_function_run, brings_back_all_that_stores_and_commands_change) {
   EXPECT_TRUE(slot_in_use(PLOT_FUNCTION, 3));
   EXPECT_EQ(state.calcMode, PLOT_MODE);
   EXPECT_EQ(read_system_variable(VAR_TVM_N).re, 0.0);
+}
+
+TEST_F(custom_function_run, brings_back_the_line_its_history_and_the_locks) {
+  const TTestFolder folder;
+  const std::string path = folder.file("locked");
+  make_file(path + ".state", "V: 2.7A\r\nO: 13:1\r\nO: 14:1\r\nE: 0:34\r\n");
+  eval("7/2");
+  entry_line = {};
+  const int entries = history.count;
+  EXPECT_EQ(at(1.0, "loadState(\"" + path + "\")"), 0.0);
+  EXPECT_FALSE(zoom_locks.x);
+  EXPECT_FALSE(zoom_locks.y);
+  EXPECT_EQ(entry_line.expression.count, 0);
+  EXPECT_EQ(at(1.0, "clrMem(7)"), 0.0);
+  EXPECT_EQ(history.count, entries);
 }
 
 TEST_F(custom_function_run, brings_back_the_drawing) {

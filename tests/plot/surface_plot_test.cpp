@@ -315,6 +315,7 @@ TEST_F(surface_plot, of_all_sizes_comes_to_an_end) {
     set_plot_view(-size, -size, size, size);
     plot_variables.t = {-1e308, 1e308, 1.0};
     draw();
+    EXPECT_EQ(plot_variables.t.step, 1.0) << "a range wider than any number";
     plot_variables.t = {-1e100, 1e100, 1.0};
     draw();
     show_rotated(1e5, -1e5);

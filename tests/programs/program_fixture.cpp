@@ -6,7 +6,6 @@
 
 #include "engine/calculator.h"
 #include "engine/errors.h"
-#include "engine/format.h"
 #include "engine/memory.h"
 #include "engine/state.h"
 #include "engine/text_entry.h"
@@ -53,12 +52,6 @@ void programs::start(const std::string& name) {
 void programs::go_on(int most) {
   while (most-- > 0 && on_idle()) {
   }
-}
-
-std::string programs::result() const {
-  char plain[RESULT_TEXT_SIZE * 3];
-  plain_text(state.result_text, plain, sizeof plain);
-  return plain;
 }
 
 std::string programs::standing_error() const { return errors.error_flag ? errors.error_text : ""; }

@@ -29,7 +29,6 @@ class programs : public calculator {
   // The answer at a prompt, then rounds as go_on; the result line.
   std::string answer_with(const std::string& text);
 
-  std::string result() const;
   std::string standing_error() const;
   double memory(const char* name) const;
 

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <vector>
 
 #include "support/temporary_folder.h"
 
@@ -20,9 +21,10 @@ struct TOutcome {
 // Runs a program in an empty folder with `input` as its standard input.
 class programs : public ::testing::Test {
  protected:
-  TOutcome run(const std::string& program, const std::string& input) {
+  TOutcome run(const std::string& program, const std::string& input, const std::string& arguments = "") {
     std::ofstream(folder_ / "input") << input;
-    const std::string command = "cd '" + folder_.string() + "' && '" + program + "' <input 2>&1";
+    const std::string command =
+        "cd '" + folder_.string() + "' && '" + program + "' " + arguments + " <input 2>&1";
     TOutcome outcome;
     std::FILE* pipe = popen(command.c_str(), "r");
     for (int c = std::getc(pipe); c != EOF; c = std::getc(pipe)) outcome.output += static_cast<char>(c);
@@ -30,7 +32,8 @@ class programs : public ::testing::Test {
     return outcome;
   }
   TOutcome script(const std::string& input) { return run(ZEPHYL_SCRIPT, input); }
-  // Its data folder is its own folder, so it runs as a copy beside the input: what another run has kept must not show here.
+  // Its data folder is its own folder, so it runs as a copy beside the input: what another run has kept must
+  // not show here.
   TOutcome console(const std::string& input) {
     const std::filesystem::path copy = folder_ / "zephyl-console";
     if (!std::filesystem::exists(copy)) std::filesystem::copy_file(ZEPHYL_CONSOLE, copy);
@@ -114,5 +117,45 @@ TEST_F(programs, console_says_what_it_cannot_read) {
 TEST_F(programs, console_ends_at_quit) { EXPECT_EQ(console("1+1\nquit\n2+2\n").output, "2\n"); }
 
 TEST_F(programs, console_helps) { EXPECT_NE(console("help\n").output.find("quit"), std::string::npos); }
+
+// Each of them, the window too: it answers these before it asks for a display.
+const std::vector<std::string> PROGRAMS = {ZEPHYL_SCRIPT, ZEPHYL_CONSOLE, ZEPHYL_WINDOW_PROGRAM};
+
+std::string name_of(const std::string& program) { return std::filesystem::path(program).filename(); }
+
+TEST_F(programs, each_tells_its_version) {
+  for (const std::string& program : PROGRAMS) {
+    if (program.empty()) continue;
+    const TOutcome outcome = run(program, "2+2\n", "--version");
+    EXPECT_EQ(outcome.output, name_of(program) + " 2.7A\n");
+    EXPECT_EQ(outcome.status, 0);
+  }
+}
+
+TEST_F(programs, each_tells_its_options) {
+  for (const std::string& program : PROGRAMS) {
+    if (program.empty()) continue;
+    const TOutcome outcome = run(program, "", "--help");
+    EXPECT_NE(outcome.output.find("\nusage: " + name_of(program) + " [--version] [--help]"),
+              std::string::npos);
+    EXPECT_EQ(outcome.status, 0);
+  }
+}
+
+TEST_F(programs, an_argument_that_is_none_of_theirs_is_refused) {
+  for (const std::string program : {ZEPHYL_SCRIPT, ZEPHYL_CONSOLE}) {
+    for (const std::string argument : {"--no-such-option", "file.state", "-- --version"}) {
+      const TOutcome outcome = run(program, "2+2\n", argument);
+      EXPECT_EQ(outcome.output.find(name_of(program) + ": unknown argument "), 0u) << outcome.output;
+      EXPECT_EQ(outcome.status, 2);
+    }
+  }
+  if (std::string(ZEPHYL_WINDOW_PROGRAM).empty()) return;
+  const TOutcome window =
+      run("env' 'QT_QPA_PLATFORM=offscreen' '" ZEPHYL_WINDOW_PROGRAM, "", "--no-such-option");
+  EXPECT_NE(window.output.find("zephyl: unknown argument --no-such-option"), std::string::npos)
+      << window.output;
+  EXPECT_EQ(window.status, 2);
+}
 
 }  // namespace

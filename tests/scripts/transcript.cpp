@@ -3,7 +3,6 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <system_error>
 #include <utility>
 
 #include "app/start_up.h"
@@ -39,26 +38,6 @@ class TTranscriptChannel : public TScriptChannel {
  private:
   TTranscript& transcript_;
   std::size_t next_ = 0;
-};
-
-// An empty folder that is the current one while it lives.
-class TWorkingFolder {
- public:
-  TWorkingFolder() : before_(std::filesystem::current_path()) {
-    if (made()) std::filesystem::current_path(folder_.path());
-  }
-  ~TWorkingFolder() {
-    std::error_code ignored;
-    std::filesystem::current_path(before_, ignored);
-  }
-  TWorkingFolder(const TWorkingFolder&) = delete;
-  TWorkingFolder& operator=(const TWorkingFolder&) = delete;
-
-  bool made() const { return !folder_.path().empty(); }
-
- private:
-  const TTemporaryFolder folder_;
-  const std::filesystem::path before_;
 };
 
 constexpr const char* PROGRAM_EXTENSION = ".prgm";

@@ -79,6 +79,26 @@ TEST_F(stats_plots, values_of_any_size_are_plotted) {
   EXPECT_EQ(values_in_bin(data, 3, 1, 3), 1);
 }
 
+TEST_F(stats_plots, a_curve_ends_where_numbers_do) {
+  two_variables({1, 1, 1e308, 2});
+  for (const int model : {R_LINEAR, R_LOGARITHMIC, R_EXPON, R_POWER}) {
+    settings.statsRegress = model;
+    const TSurface picture = scatter_picture();
+    EXPECT_NE(picture.pixel(9, 179), WHITE) << model;
+    EXPECT_NE(picture.pixel(9 + 208, 9), WHITE) << model;
+  }
+  EXPECT_EQ(error_of("1+1"), "");
+}
+
+TEST_F(stats_plots, the_smallest_ranges_have_their_places_too) {
+  two_variables({0, 0, 4e-309, 1, 8e-309, 2});
+  EXPECT_EQ(values_in_bin(stats.x, 3, 0, 10), 1);
+  EXPECT_EQ(values_in_bin(stats.x, 3, 5, 10), 1);
+  EXPECT_EQ(values_in_bin(stats.x, 3, 9, 10), 1);
+  EXPECT_EQ(line_chart_picture().pixel(24 + 196, 8), BLACK);
+  EXPECT_EQ(scatter_picture().pixel(9 + 104, 180 - 86), PLOT_MARK);
+}
+
 TEST_F(stats_plots, fewer_bins_clip_the_selection) {
   one_variable({1, 2, 3});
   histogram = {100, 99};

@@ -84,7 +84,12 @@ std::string calculator::eval(const std::string& text) {
   state.fresh_flag = false;
   if (!insert_tokens(expression.tokens, expression.count)) return "does not fit";
   evaluate_expression(false);
-  if (errors.error_flag) return errors.error_text;
+  return result_or_error();
+}
+
+std::string calculator::result_or_error() const { return errors.error_flag ? errors.error_text : result(); }
+
+std::string calculator::result() const {
   char plain[RESULT_TEXT_SIZE * 3];
   plain_text(state.result_text, plain, sizeof plain);
   return plain;

@@ -66,6 +66,10 @@ class calculator : public ::testing::Test {
 
   // Enters the text form and evaluates; the result line in plain text, or the error's message.
   std::string eval(const std::string& text);
+  // What the result line says, in plain text.
+  std::string result() const;
+  // The same; the error's message where one stands.
+  std::string result_or_error() const;
   // The same, as numbers: the parts of Ans; fails the test on an error.
   double value(const std::string& text);
   double imaginary(const std::string& text);

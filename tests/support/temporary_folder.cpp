@@ -24,4 +24,13 @@ TTemporaryFolder::~TTemporaryFolder() {
   std::filesystem::remove_all(path_, ignored);
 }
 
+TWorkingFolder::TWorkingFolder() : before_(std::filesystem::current_path()) {
+  if (made()) std::filesystem::current_path(folder_.path());
+}
+
+TWorkingFolder::~TWorkingFolder() {
+  std::error_code ignored;
+  std::filesystem::current_path(before_, ignored);
+}
+
 }  // namespace zephyl

@@ -1,4 +1,4 @@
-// A folder of a test's own.
+// Folders of a test's own.
 #pragma once
 
 #include <filesystem>
@@ -18,6 +18,22 @@ class TTemporaryFolder {
 
  private:
   std::filesystem::path path_;
+};
+
+// One that is the current folder while it lives.
+class TWorkingFolder {
+ public:
+  TWorkingFolder();
+  ~TWorkingFolder();
+  TWorkingFolder(const TWorkingFolder&) = delete;
+  TWorkingFolder& operator=(const TWorkingFolder&) = delete;
+
+  bool made() const { return !folder_.path().empty(); }
+  const std::filesystem::path& path() const { return folder_.path(); }
+
+ private:
+  const TTemporaryFolder folder_;
+  const std::filesystem::path before_;
 };
 
 }  // namespace zephyl

@@ -1,6 +1,9 @@
 #include "tools/dialogs/money_dialogs.h"
 
+#include <algorithm>
+
 #include "engine/errors.h"
+#include "engine/format.h"
 #include "engine/state.h"
 #include "support/calculator.h"
 #include "tools/tvm_state.h"
@@ -62,6 +65,29 @@ TEST_F(money_dialogs, a_field_that_can_not_be_read_keeps_the_old_value) {
   EXPECT_EQ(tvm_value(TVM_N), 24.0);
 }
 
+TEST_F(money_dialogs, a_comma_is_the_decimal_mark_only_where_it_is_set) {
+  set_tvm_value(TVM_PV, 7.0);
+  for (const int mark : {0, 1}) {
+    settings.decimalMark = mark;
+    in_solver([this](TDialog& dialog) {
+      set(dialog, "PV", "200,5");
+      press(dialog, "Exit");
+    });
+    EXPECT_EQ(tvm_value(TVM_PV), mark == 1 ? 200.5 : 7.0);
+  }
+}
+
+TEST_F(money_dialogs, a_number_is_decimal) {
+  set_tvm_value(TVM_PV, 7.0);
+  for (const char* text : {"0x10", "inf", "nan", "1e999", " "}) {
+    in_solver([this, text](TDialog& dialog) {
+      set(dialog, "PV", text);
+      press(dialog, "Exit");
+    });
+    EXPECT_EQ(tvm_value(TVM_PV), 7.0) << text;
+  }
+}
+
 TEST_F(money_dialogs, an_error_shows_in_a_box_and_is_cleared) {
   in_solver([this](TDialog& dialog) {
     set(dialog, "N", "10");
@@ -72,6 +98,56 @@ TEST_F(money_dialogs, an_error_shows_in_a_box_and_is_cleared) {
     EXPECT_EQ(text(dialog, "I%YR ="), "0");
   });
   EXPECT_FALSE(errors.error_flag);
+}
+
+TEST_F(money_dialogs, what_divides_by_zero_or_overflows_is_said_and_stores_nothing) {
+  struct TCase {
+    std::initializer_list<std::pair<const char*, const char*>> fields;
+    const char* unknown;
+    const char* error;
+  };
+  const TCase cases[] = {
+      {{{"PV", "1000"}}, "N", "Division by Zero"},
+      {{{"PV", "1000"}}, "PMT", "Division by Zero"},
+      {{{"C/Y", "0"}, {"I%YR =", "5"}, {"N", "2"}}, "PV", "Division by Zero"},
+      {{{"I%YR =", "12"}, {"N", "10"}, {"PV", "1000"}, {"PMT", "-9"}}, "N", "Domain Error"},
+      {{{"PV", "1000"}, {"PMT", "0.000001"}, {"FV", "-500"}}, "I%YR", "Division by Zero"},
+      {{{"I%YR =", "1e308"}, {"N", "2000"}, {"PV", "1e308"}}, "FV", "Overflow"},
+  };
+  for (const TCase& wrong : cases) {
+    reset_tvm_state();
+    platform_.messages.clear();
+    double before[TVM_PMT_AT];
+    in_solver([&](TDialog& dialog) {
+      for (const auto& [field, value] : wrong.fields) set(dialog, field, value);
+      press(dialog, "Exit");
+    });
+    std::copy(tvm_state.values, tvm_state.values + TVM_PMT_AT, before);
+    in_solver([&](TDialog& dialog) {
+      press(dialog, ("Solve " + std::string(wrong.unknown)).c_str());
+      EXPECT_EQ(message(), "TVM Solver | " + std::string(wrong.error)) << wrong.unknown;
+      EXPECT_FALSE(dialog.closed());
+    });
+    EXPECT_TRUE(std::equal(before, before + TVM_PMT_AT, tvm_state.values)) << wrong.unknown;
+    EXPECT_FALSE(errors.error_flag);
+  }
+}
+
+TEST_F(money_dialogs, each_unknown_is_solved) {
+  in_solver([this](TDialog& dialog) {
+    set(dialog, "I%YR =", "6");
+    set(dialog, "PV", "200000");
+    set(dialog, "PMT", "-1199.1010503055");
+    press(dialog, "Solve N");
+    EXPECT_NEAR(std::stod(text(dialog, "N")), 360.0, 1e-6);
+    set(dialog, "N", "360");
+    press(dialog, "Solve PV");
+    EXPECT_NEAR(std::stod(text(dialog, "PV")), 200000.0, 1e-3);
+    set(dialog, "I%YR =", "1");
+    press(dialog, "Solve I%YR");
+    EXPECT_NEAR(std::stod(text(dialog, "I%YR =")), 6.0, 1e-8);
+    EXPECT_TRUE(dialog[find_control(dialog, "Solve I%YR")].enabled);
+  });
 }
 
 TEST_F(money_dialogs, a_schedule_has_a_row_for_each_payment_up_to_2000) {
@@ -98,8 +174,23 @@ TEST_F(money_dialogs, a_longer_schedule_is_refused) {
 }
 
 TEST_F(money_dialogs, a_schedule_without_payments_has_no_rows) {
-  set_tvm_value(TVM_N, -3.0);
-  platform_.dialog_answers.push_back([](TDialog& dialog) { EXPECT_TRUE(dialog[0].rows.empty()); });
+  for (const double n : {-3.0, 0.0, 0.9, -1e300}) {
+    set_tvm_value(TVM_N, n);
+    platform_.dialog_answers.push_back([](TDialog& dialog) { EXPECT_TRUE(dialog[0].rows.empty()); });
+    show_amortization_schedule();
+  }
+}
+
+TEST_F(money_dialogs, a_schedule_has_whole_payments_only_in_the_number_format) {
+  settings.numberFormat = FORMAT_FIXED;
+  settings.decimalDigits = 2;
+  set_tvm_value(TVM_N, 2.9);
+  set_tvm_value(TVM_I, 6.0);
+  set_tvm_value(TVM_PV, 1000.0);
+  set_tvm_value(TVM_PMT, -10.0);
+  platform_.dialog_answers.push_back([](TDialog& dialog) {
+    EXPECT_EQ(dialog[0].rows, (std::vector<std::string>{"1\t-5.00\t-5.00\t995.00", "2\t-5.02\t-4.98\t989.98"}));
+  });
   show_amortization_schedule();
 }
 

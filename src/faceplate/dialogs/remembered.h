@@ -14,6 +14,7 @@ struct TRemembered {
   int expression_row = 0;
   int matrix_variable_row = 0;
   int list_variable_row = 0;
+  int sample_row = 0;
 };
 inline TRemembered remembered;
 

@@ -1,5 +1,6 @@
 #include "faceplate/dialogs/sample_plots.h"
 
+#include "faceplate/dialogs/remembered.h"
 #include "faceplate/dialogs/running.h"
 #include "faceplate/gif.h"
 #include "persistence/samples.h"
@@ -12,7 +13,7 @@ constexpr int SAMPLE_PLOTS = 216;
 constexpr int PICTURE_WIDTH = 204;
 constexpr int PICTURE_HEIGHT = 248;
 
-int last_row = 0;
+int& last_row = remembered.sample_row;
 
 // All of them at once, whatever is selected.
 TSurface samples_picture() {

@@ -12,8 +12,6 @@ namespace {
 constexpr int VARIABLES = 10;
 
 struct TTableDialog {
-  int id;
-  const char* title;
   const char* answer;  // the text of its row
   char opening, closing;
   int answer_token;
@@ -22,11 +20,9 @@ struct TTableDialog {
 };
 
 constexpr TTableDialog matrix_dialog = {
-    204,           "Select Matrix Variable",         "RCL [Matrix Ans]", '[', ']', TOKEN_M_ANS,
-    SLOT_MATRIX_A, &TRemembered::matrix_variable_row};
+    "RCL [Matrix Ans]", '[', ']', TOKEN_M_ANS, SLOT_MATRIX_A, &TRemembered::matrix_variable_row};
 constexpr TTableDialog list_dialog = {
-    211,         "Select List Variable",         "RCL {List Ans}", '{', '}', TOKEN_L_ANS,
-    SLOT_LIST_A, &TRemembered::list_variable_row};
+    "RCL {List Ans}", '{', '}', TOKEN_L_ANS, SLOT_LIST_A, &TRemembered::list_variable_row};
 
 std::vector<std::string> texts(const TTableDialog& kind) {
   std::vector<std::string> rows = {kind.answer};
@@ -42,9 +38,8 @@ int token_of_row(const TTableDialog& kind, int row) {
   return store_token(kind.first_slot + row - 1 - VARIABLES);
 }
 
-int choose(const TTableDialog& kind) {
+int choose(TDialog dialog, const TTableDialog& kind) {
   int& last_row = remembered.*kind.last_row;
-  TDialog dialog(kind.id, kind.title);
   const int list = dialog.add(list_control("", texts(kind), last_row));
   dialog[list].lines = 12;
   if (!confirmed_with_ok(dialog)) return -1;
@@ -54,7 +49,7 @@ int choose(const TTableDialog& kind) {
 
 }  // namespace
 
-int choose_matrix_token() { return choose(matrix_dialog); }
-int choose_list_token() { return choose(list_dialog); }
+int choose_matrix_token() { return choose(TDialog(204, "Select Matrix Variable"), matrix_dialog); }
+int choose_list_token() { return choose(TDialog(211, "Select List Variable"), list_dialog); }
 
 }  // namespace zephyl

@@ -12,8 +12,6 @@ namespace zephyl {
 
 namespace {
 
-// The room for a text in a row.
-constexpr std::size_t TEXT_WIDTH = 100;
 constexpr int NO_ANSWER = -1;
 
 std::string list_text(const ListRecord& list) {
@@ -25,8 +23,6 @@ std::string matrix_text(const MatrixRecord& matrix) {
   return std::to_string(matrix.last_row + 1) + " by " + std::to_string(matrix.last_col + 1);
 }
 
-std::string string_text(const TString& string) { return std::string(string.text).substr(0, TEXT_WIDTH); }
-
 std::string value_text(int slot) {
   switch (slot_class(slot)) {
     case CLASS_MATRIX:
@@ -34,7 +30,7 @@ std::string value_text(int slot) {
     case CLASS_LIST:
       return list_text(stores.lists[slot - SLOT_LIST_A]);
     case CLASS_STRING:
-      return string_text(stores.strings[slot - SLOT_STR1]);
+      return stores.strings[slot - SLOT_STR1].text;
     default:
       return format_result(memory_array[slot].re, memory_array[slot].im, false, true);
   }
@@ -42,7 +38,7 @@ std::string value_text(int slot) {
 
 std::string matrix_answer_text() { return "[Matrix Ans]: " + matrix_text(stores.matrices[ANSWER_RECORD]); }
 std::string list_answer_text() { return "{List Ans}: " + list_text(stores.lists[ANSWER_RECORD]); }
-std::string string_answer_text() { return "String Ans: " + string_text(stores.strings[ANSWER_RECORD]); }
+std::string string_answer_text() { return std::string("String Ans: ") + stores.strings[ANSWER_RECORD].text; }
 
 struct TGroup {
   const char* text;

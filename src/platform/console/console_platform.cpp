@@ -4,10 +4,10 @@
 #include <cstdio>
 #include <ctime>
 
-#include "platform/console/data_folder.h"
 #include "platform/console/dialog_talk.h"
 #include "platform/console/interrupts.h"
 #include "platform/dialog.h"
+#include "platform/posix/folders.h"
 
 namespace zephyl {
 
@@ -29,7 +29,7 @@ bool ask_line(const std::string& prompt, std::string& line) {
 }  // namespace
 
 TConsolePlatform::TConsolePlatform(bool interactive)
-    : interactive_(interactive), folder_(find_data_folder()) {}
+    : interactive_(interactive), folder_(data_folder_of(executable_folder())) {}
 
 void TConsolePlatform::forget_interrupt() {
   clear_interrupt();

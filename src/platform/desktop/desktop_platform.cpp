@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDesktopServices>
-#include <QFileInfo>
 #include <QMessageBox>
 #include <QThread>
 #include <QUrl>
@@ -17,6 +16,7 @@
 #include "platform/desktop/window_place.h"
 #include "platform/dialog.h"
 #include "platform/events.h"
+#include "programs/open_file.h"
 
 namespace zephyl {
 
@@ -50,8 +50,9 @@ class TDesktopPlatform::TBoxOpen {
   bool waiting_;
 };
 
-TDesktopPlatform::TDesktopPlatform(std::string folder)
+TDesktopPlatform::TDesktopPlatform(std::string folder, std::string help_file)
     : folder_(std::move(folder)),
+      help_file_(std::move(help_file)),
       window_([this](const TInput& input) { take(input); }, [this] { return close_wished(); }),
       announcer_(window_),
       click_(folder_ + "/click.wav") {
@@ -89,6 +90,17 @@ void TDesktopPlatform::stop() {
 void TDesktopPlatform::take(const TInput& input) {
   queue_.push(input);
   wake();
+}
+
+void TDesktopPlatform::open(const std::string& path) {
+  files_.push_back(path);
+  take({INPUT_OPEN});
+}
+
+void TDesktopPlatform::open_next() {
+  const std::string path = files_.front();
+  files_.pop_front();
+  open_file(path);
 }
 
 // While the calculator works the wish waits in the queue, where the poll of an evaluation sees it.
@@ -147,6 +159,8 @@ void TDesktopPlatform::dispatch(const TInput& input) {
       return copy_result();
     case INPUT_PASTE:
       return paste_clipboard();
+    case INPUT_OPEN:
+      return open_next();
     case INPUT_CLOSE:
       stop();
       window_.close();
@@ -249,8 +263,7 @@ bool TDesktopPlatform::ask_question(const char* text, const char* title) {
 }
 
 void TDesktopPlatform::show_help() {
-  const QString file = QString::fromStdString(folder_) + "/Zephyl_help.chm";
-  if (QFileInfo::exists(file)) QDesktopServices::openUrl(QUrl::fromLocalFile(file));
+  if (!help_file_.empty()) QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(help_file_)));
 }
 
 void TDesktopPlatform::run_dialog(TDialog& dialog) {

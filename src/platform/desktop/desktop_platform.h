@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QTimer>
+#include <deque>
 #include <string>
 
 #include "platform/desktop/accessible/announcer.h"
@@ -16,8 +17,11 @@ namespace zephyl {
 
 class TDesktopPlatform : public TPlatform {
  public:
-  // The QApplication must exist. folder: the data folder.
-  explicit TDesktopPlatform(std::string folder);
+  // The QApplication must exist. folder: the data folder. help_file: what shows as help, "" for nothing.
+  explicit TDesktopPlatform(std::string folder, std::string help_file = "");
+
+  // Opens a file (programs/open_file.h) when the calculator is ready for it.
+  void open(const std::string& path);
 
   // Starts the calculator, shows its window and returns when that was closed: the exit code of the program.
   // The platform must be set and the families registered.
@@ -56,12 +60,15 @@ class TDesktopPlatform : public TPlatform {
   bool work();
   void round();
   void dispatch(const TInput& input);
+  void open_next();
   void compose();
   // What a new box stands above.
   QWidget* front_window();
   class TBoxOpen;
 
   std::string folder_;
+  std::string help_file_;
+  std::deque<std::string> files_;  // one for each INPUT_OPEN in the queue
   TInputQueue queue_;
   TCalculatorWindow window_;
   TAnnouncer announcer_;

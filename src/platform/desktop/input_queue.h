@@ -16,6 +16,7 @@ enum TInputKind {
   INPUT_ARROW,
   INPUT_COPY,
   INPUT_PASTE,
+  INPUT_OPEN,  // a file, which TDesktopPlatform knows
   INPUT_CLOSE,
 };
 

@@ -1,4 +1,4 @@
-// Commands that fill the entry line without keys.
+// Commands that fill the entry line without keys, and the one that opens a file.
 
 #include <cstdint>
 #include <vector>
@@ -10,6 +10,7 @@
 #include "platform/script/arguments.h"
 #include "platform/script/commands.h"
 #include "platform/script/script.h"
+#include "programs/open_file.h"
 
 namespace zephyl {
 
@@ -49,11 +50,18 @@ bool obey_eval(TScript& script, const std::string& text) {
   return true;
 }
 
+bool obey_open(TScript&, const std::string& text) {
+  if (text.empty()) return false;
+  open_file(text);
+  return true;
+}
+
 constexpr TCommand COMMANDS[] = {
     {"enter", "enter TEXT", obey_enter, NOT_IN_DIALOG},
     {"insert", "insert TEXT", obey_insert, NOT_IN_DIALOG},
     {"tokens", "tokens N N ..., each from 0 to 65535", obey_tokens, NOT_IN_DIALOG},
     {"eval", "eval TEXT", obey_eval, NOT_IN_DIALOG},
+    {"open", "open PATH", obey_open, NOT_IN_DIALOG},
 };
 
 }  // namespace

@@ -68,8 +68,7 @@ bool select_program(TDialog& dialog, TProgramChoice& last) {
   return true;
 }
 
-bool choose(int id, const char* title, TProgramChoice& last, TProgramChoice& choice) {
-  TDialog dialog(id, title);
+bool choose(TDialog dialog, TProgramChoice& last, TProgramChoice& choice) {
   if (!select_program(dialog, last)) return false;
   choice = last;
   return true;
@@ -78,11 +77,11 @@ bool choose(int id, const char* title, TProgramChoice& last, TProgramChoice& cho
 }  // namespace
 
 bool select_program_to_run(TProgramChoice& choice) {
-  return choose(RUN_DIALOG_ID, "Select Program to Run", last_run, choice);
+  return choose(TDialog(RUN_DIALOG_ID, "Select Program to Run"), last_run, choice);
 }
 
 bool select_program_to_call(TProgramChoice& choice) {
-  return choose(CALL_DIALOG_ID, "Select Program to Call", last_called, choice);
+  return choose(TDialog(CALL_DIALOG_ID, "Select Program to Call"), last_called, choice);
 }
 
 void reset_program_dialogs() { last_run = last_called = {}; }

@@ -116,12 +116,12 @@ TSurface histogram_picture() {
 
 void show_histogram() {
   TDialog dialog(HISTOGRAM_DIALOG, "Histogram Plot");
-  dialog.add(picture_control("Histogram Plot", histogram_picture()));
+  dialog.add(picture_control("", histogram_picture()));
   dialog.add(combo_control("Bins:", bin_rows(), histogram.bin_count - 1));
   dialog.add(beside(button_control("<")));
   dialog.add(beside(button_control(">")));
   for (const TStatsPane& pane : stats_panes()) dialog.add(text_control(pane.heading, bin_info(pane)));
-  dialog.add(button_control("OK", BUTTON_CANCEL));
+  dialog.add(button_control("OK", BUTTON_DEFAULT));
   dialog.procedure = handle;
   platform().run_dialog(dialog);
 }

@@ -41,8 +41,8 @@ TSurface line_chart_picture() {
 
 void show_line_chart() {
   TDialog dialog(LINE_CHART_DIALOG, "Line Chart");
-  dialog.add(picture_control("Line Chart", line_chart_picture()));
-  dialog.add(button_control("OK", BUTTON_CANCEL));
+  dialog.add(picture_control("", line_chart_picture()));
+  dialog.add(button_control("OK", BUTTON_DEFAULT));
   platform().run_dialog(dialog);
 }
 

@@ -22,6 +22,7 @@ constexpr TRect PLOT = {9, 8, 217, 180};
 constexpr double COLUMNS = 208.0;
 constexpr double ROWS = 172.0;
 constexpr double CURVE_STEP = 0.004807692307692308;  // of the range: a column
+constexpr int CURVE_STEPS = 520;                     // to 1.5 ranges past the last point
 constexpr TColour CURVE = rgb(255, 0, 0);
 
 // A fit value, or undefined_value where it can't be computed; no error stands afterwards.
@@ -49,6 +50,7 @@ struct TScale {
 
 // y of the curve at x; false where it has none.
 bool curve_at(double x, double& y) {
+  if (!std::isfinite(x)) return false;
   clear_faults();
   y = predict_y(x);
   const bool fails = errors.error_flag || !std::isfinite(y);
@@ -60,12 +62,10 @@ bool curve_at(double x, double& y) {
 int pixel(double coordinate) { return static_cast<int>(std::clamp(coordinate, -1e8, 1e8)); }
 
 void draw_curve(TSurface& picture, const TScale& scale) {
-  const double end = scale.x_min + 2.5 * scale.x_range();
   bool joined = false;
   TPoint last;
-  for (int k = 0;; ++k) {
+  for (int k = 0; k <= CURVE_STEPS; ++k) {
     const double x = scale.x_min + k * CURVE_STEP * scale.x_range();
-    if (!(x <= end)) return;
     double y;
     const bool defined = curve_at(x, y);
     const TPoint point = defined ? TPoint{pixel(scale.column(x)), pixel(scale.row(y))} : last;
@@ -101,10 +101,10 @@ TSurface scatter_picture() {
 void show_scatter_plot() {
   const std::string r = fit_text(STAT_CORRELATION);
   TDialog dialog(SCATTER_DIALOG, "Scatter Plot");
-  dialog.add(picture_control("Scatter Plot", scatter_picture()));
+  dialog.add(picture_control("", scatter_picture()));
   dialog.add(text_control("", "a=" + fit_text(STAT_SLOPE) + ", b=" + fit_text(STAT_INTERCEPT) + ", r=" + r));
   dialog.add(text_control("", std::string(regression_equation(settings.statsRegress)) + ", r=" + r));
-  dialog.add(button_control("OK", BUTTON_CANCEL));
+  dialog.add(button_control("OK", BUTTON_DEFAULT));
   platform().run_dialog(dialog);
 }
 

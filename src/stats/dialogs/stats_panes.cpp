@@ -53,7 +53,9 @@ void draw_plus(TSurface& picture, int x, int y, TColour colour) {
 double plot_share(double v, double low, double high, double span) {
   if (high == low) return 0.0;
   if (!std::isfinite(high - low)) return plot_share(v / 2, low / 2, high / 2, span);
-  return (v - low) * (span / (high - low));
+  const double factor = span / (high - low);
+  // The factor of the smallest ranges has no place in a double, the share has.
+  return std::isfinite(factor) ? (v - low) * factor : (v - low) / (high - low) * span;
 }
 
 std::string plot_number(double value) {

@@ -40,13 +40,13 @@ std::string payment_row(int k) {
 
 void show_amortization_schedule() {
   std::vector<std::string> rows;
-  for (int k = 1; k <= static_cast<int>(tvm_state.values[TVM_N]); ++k) rows.push_back(payment_row(k));
+  for (int k = 1; k <= tvm_state.values[TVM_N]; ++k) rows.push_back(payment_row(k));
   TDialog dialog(SCHEDULE_DIALOG, "Amortization Schedule");
   TControl table = table_control("Payments", {{"#", 30}, {"Principal", 56}, {"Interest", 56}, {"Balance", 90}},
                                  std::move(rows));
   table.lines = 14;
   dialog.add(std::move(table));
-  dialog.add(button_control("Back to TVM Solver", BUTTON_CANCEL));
+  dialog.add(button_control("Back to TVM Solver", BUTTON_DEFAULT));
   platform().run_dialog(dialog);
 }
 

@@ -72,7 +72,7 @@ void show_element_table() {
   TControl table = table_control("Elements", fact_columns(), std::move(rows));
   table.lines = 14;
   dialog.add(std::move(table));
-  dialog.add(button_control("Back to Periodic Table", BUTTON_CANCEL));
+  dialog.add(button_control("Back to Periodic Table", BUTTON_DEFAULT));
   platform().run_dialog(dialog);
 }
 

@@ -1,9 +1,11 @@
 // The dialog of the money solver: seven values as text, a choice of when payments are due, and a button for each unknown.
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
 #include "engine/errors.h"
+#include "engine/faults.h"
 #include "engine/format.h"
 #include "engine/state.h"
 #include "engine/values.h"
@@ -36,11 +38,12 @@ std::string field_text(double value) {
   return text;
 }
 
-// undefined_value for a text that is no number.
+// undefined_value for a text that is no number as the fields write it: a comma is the decimal mark only where it is set,
+// or "200,000" would be a loan of 200.
 double read_field(const std::string& text) {
   std::string point = text;
-  for (char& c : point)
-    if (c == ',') c = '.';
+  if (settings.decimalMark == 1) std::replace(point.begin(), point.end(), ',', '.');
+  if (point.find_first_not_of("0123456789+-.eE") != std::string::npos) return undefined_value;
   char* end = nullptr;
   const double value = std::strtod(point.c_str(), &end);
   const bool whole = end != point.c_str() && *end == 0 && std::isfinite(value);
@@ -63,7 +66,7 @@ void solve(TDialog& dialog, int unknown) {
   clear_error();
   TControl& button = dialog[FIRST_SOLVE + unknown];
   button.enabled = unknown != TVM_I;
-  const double value = solve_tvm(tvm_state, unknown);
+  const double value = reporting_faults<double, const TvmState&, int>(solve_tvm, tvm_state, unknown);
   button.enabled = true;
   if (errors.error_flag) {
     platform().show_message(errors.error_text, "TVM Solver");

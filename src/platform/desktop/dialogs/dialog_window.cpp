@@ -3,7 +3,9 @@
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QLabel>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScreen>
 #include <QShowEvent>
 #include <QVBoxLayout>
@@ -122,6 +124,7 @@ void TDialogWindow::build() {
     widgets_.push_back(make_control_widget(*this, i, dialog_[i], content_));
   shape_ = shape_of(dialog_);
   group_radio_buttons();
+  settle_default();
   tie_words();
   const std::vector<QString> labels = labels_with_mnemonics(dialog_);
   for (std::size_t i = 0; i < widgets_.size(); ++i) widgets_[i]->sync(dialog_.controls[i], labels[i]);
@@ -154,6 +157,21 @@ void TDialogWindow::group_radio_buttons() {
     if (!group) group = new QButtonGroup(content_);
     group->addButton(static_cast<QAbstractButton*>(widgets_[static_cast<std::size_t>(i)]->body()));
   }
+}
+
+// Where the dialog names no default Qt would take the first button, and Enter in a field would press it.
+void TDialogWindow::settle_default() {
+  const bool named = std::any_of(dialog_.controls.begin(), dialog_.controls.end(), [](const TControl& control) {
+    return control.kind == CONTROL_BUTTON && control.role == BUTTON_DEFAULT;
+  });
+  for (QPushButton* button : content_->findChildren<QPushButton*>()) button->setAutoDefault(named);
+}
+
+void TDialogWindow::keyPressEvent(QKeyEvent* event) {
+  auto* button = qobject_cast<QPushButton*>(focusWidget());
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && button && !button->autoDefault()) return button->click();
+  QDialog::keyPressEvent(event);
 }
 
 void TDialogWindow::chain_tab_stops(const std::vector<QWidget*>& stops) {

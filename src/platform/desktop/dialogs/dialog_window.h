@@ -29,6 +29,8 @@ class TDialogWindow : public QDialog, private TDialogUser {
   void showEvent(QShowEvent* event) override;
   // Escape, and the close button of the window.
   void reject() override;
+  // Enter presses the button that has the keyboard, else the default one.
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void act(const std::function<void(TDialog&)>& act) override;
@@ -39,6 +41,7 @@ class TDialogWindow : public QDialog, private TDialogUser {
   void name_controls();
   void tie_words();
   void group_radio_buttons();
+  void settle_default();
   void chain_tab_stops(const std::vector<QWidget*>& stops);
   void focus_first();
   void sync_ticks();

@@ -13,7 +13,8 @@ bool wants_letter(const TDialog& dialog, int index) {
   const TControl& control = dialog[index];
   switch (control.kind) {
     case CONTROL_LABEL:
-      return leads_to_next(dialog, index) && wants_letter(dialog, index + 1);
+      return leads_to_next(dialog, index) && dialog[index + 1].kind != CONTROL_TEXT &&
+             wants_letter(dialog, index + 1);
     case CONTROL_PICTURE:
       return false;
     case CONTROL_TEXT:

@@ -6,6 +6,8 @@
 #include <QKeyEvent>
 #include <QListView>
 #include <QScrollBar>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
 #include <QStyledItemDelegate>
 #include <QTableView>
 #include <algorithm>
@@ -16,6 +18,7 @@ namespace {
 
 constexpr int NARROWEST_ROWS = 14;  // in average characters
 constexpr int WIDEST_ROWS = 60;
+constexpr int WIDEST_TABLE = 100;
 constexpr int CELL_PADDING = 14;
 constexpr int LINE_AIR = 4;
 // Widths of columns are told for letters of this width.
@@ -26,9 +29,9 @@ bool moves_through_rows(int key) {
   return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
 }
 
-int bounded_width(int width, const QWidget& widget) {
+int bounded_width(int width, const QWidget& widget, int widest = WIDEST_ROWS) {
   const int letter = widget.fontMetrics().averageCharWidth();
-  return std::clamp(width, NARROWEST_ROWS * letter, WIDEST_ROWS * letter);
+  return std::clamp(width, NARROWEST_ROWS * letter, widest * letter);
 }
 
 int line_height(const QWidget& widget) { return widget.fontMetrics().height() + LINE_AIR; }
@@ -112,7 +115,9 @@ class TTableView : public QTableView {
   }
 
   QSize sizeHint() const override {
-    return view_size(*this, bounded_width(width_, *this), height_of(lines_));
+    const int width = bounded_width(width_, *this, WIDEST_TABLE);
+    const int bar = width < width_ ? horizontalScrollBar()->sizeHint().height() : 0;
+    return view_size(*this, width, height_of(lines_) + bar);
   }
   QSize minimumSizeHint() const override { return {bounded_width(0, *this), height_of(std::min(lines_, 3))}; }
 
@@ -134,10 +139,27 @@ class TTableView : public QTableView {
   int width_ = 0;
 };
 
+// A row that is too long for it ends in dots.
+class TComboBox : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideRight, field.width() - LINE_AIR);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+  }
+};
+
 class TComboWidget : public TRowsWidget {
  public:
   TComboWidget(TDialogUser& user, int index, QWidget* parent)
-      : TRowsWidget(user, index), combo_(new QComboBox(parent)) {
+      : TRowsWidget(user, index), combo_(new TComboBox(parent)) {
     combo_->setModel(&model_);
     combo_->setMaxVisibleItems(COMBO_LINES);
     combo_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);

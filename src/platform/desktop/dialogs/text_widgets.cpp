@@ -18,7 +18,7 @@ namespace {
 
 // Widths, in average characters.
 constexpr int WIDEST_LINE = 56;  // longer words are wrapped
-constexpr int USUAL_FIELD = 22;
+constexpr int USUAL_FIELD = 30;
 constexpr int WIDEST_FIELD = 40;
 constexpr int TALL_FIELD = 44;
 constexpr int MOST_LINES = 16;

@@ -1,0 +1,15 @@
+# Version and day of the release, each from the one place where it stands: the version in the source, the day in the first
+# heading of CHANGES.md. What is not yet released counts as of today.
+file(STRINGS ${CMAKE_SOURCE_DIR}/src/engine/errors.h version_line REGEX "VERSION_TEXT = ")
+string(REGEX REPLACE ".*\"(.*)\".*" "\\1" ZEPHYL_VERSION "${version_line}")
+file(STRINGS ${CMAKE_SOURCE_DIR}/CHANGES.md headings REGEX "^## ")
+list(GET headings 0 newest)
+if(newest STREQUAL "## ${ZEPHYL_VERSION}, not yet released")
+  string(TIMESTAMP ZEPHYL_RELEASE_DAY "%Y-%m-%d" UTC)
+elseif(newest MATCHES "^## ${ZEPHYL_VERSION}, ([0-9]+-[0-9]+-[0-9]+)$")
+  set(ZEPHYL_RELEASE_DAY ${CMAKE_MATCH_1})
+else()
+  message(FATAL_ERROR "The first heading of CHANGES.md isn't \"## ${ZEPHYL_VERSION}, YEAR-MONTH-DAY\" but \"${newest}\"")
+endif()
+set(ZEPHYL_MAINTAINER "Zephyl developers <developers@zephyl.example.org>")
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/engine/errors.h ${CMAKE_SOURCE_DIR}/CHANGES.md)
