@@ -39,6 +39,17 @@ class statement_dialogs : public program_editor {
     return rows;
   }
   using TRowNumbers = std::vector<int>;
+  // in, out, fout and loop, each with another variable.
+  void add_statements_of_variables() {
+    answer_rows({2, 5});
+    tap_key(10);
+    answer_rows({30});
+    tap_key(11);
+    answer_rows({31});
+    tap_blue(11);
+    answer_rows({32});
+    tap_key(7);
+  }
 };
 
 // --- Arguments
@@ -121,27 +132,13 @@ TEST_F(statement_dialogs, arguments_are_remembered_also_those_behind_the_count) 
 TEST_F(statement_dialogs, a_condition_opens_where_a_condition_was_left) {
   answer_rows({11, 4, 13});
   tap_key(6);
-  answer_rows({2, 5});
-  tap_key(10);
-  answer_rows({30});
-  tap_key(11);
-  answer_rows({31});
-  tap_blue(11);
-  answer_rows({32});
-  tap_key(7);
+  add_statements_of_variables();
   EXPECT_EQ(selections(6), (TRowNumbers{11, 4, 13}));
   EXPECT_EQ(selections(8), (TRowNumbers{11, 4, 13}));
 }
 
 TEST_F(statement_dialogs, each_opens_on_its_own_choice) {
-  answer_rows({2, 5});
-  tap_key(10);
-  answer_rows({30});
-  tap_key(11);
-  answer_rows({31});
-  tap_blue(11);
-  answer_rows({32});
-  tap_key(7);
+  add_statements_of_variables();
   answer_rows({8});
   tap_key(13);
   answer_rows({6});
