@@ -4,13 +4,12 @@
 #include <cstdint>
 
 #include "engine/errors.h"
-#include "engine/expression.h"
 #include "engine/faults.h"
 #include "engine/format.h"
 #include "engine/state.h"
 #include "platform/platform.h"
-#include "plot/parameter_names.h"
 #include "plot/plot_labels.h"
+#include "plot/plot_names.h"
 
 namespace zephyl {
 
@@ -81,7 +80,7 @@ bool TPlotTable::move(int rows) {
 
 std::vector<std::string> TPlotTable::headings() const {
   std::vector<std::string> headings = {parameter_label()};
-  for (const int slot : slots_) headings.push_back(function_slot_name(plot_type_ * PLOT_SLOT_COUNT + slot));
+  for (const int slot : slots_) headings.push_back(slot_label(slot));
   return headings;
 }
 

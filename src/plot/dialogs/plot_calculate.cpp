@@ -4,13 +4,12 @@
 #include <string>
 #include <vector>
 
-#include "engine/expression.h"
 #include "engine/field_value.h"
 #include "platform/dialog.h"
 #include "platform/platform.h"
-#include "plot/parameter_names.h"
 #include "plot/plot.h"
 #include "plot/plot_calculate.h"
+#include "plot/plot_names.h"
 
 namespace zephyl {
 
@@ -92,25 +91,11 @@ const char* description_of(int calculation) {
   return calculations[calculation].description;
 }
 
-// --- The functions
-
-std::string slot_name(int slot) {
-  return function_slot_name(plot_variables.plotType * PLOT_SLOT_COUNT + slot);
-}
-
-std::vector<std::string> function_rows() {
-  const int stride = slots_per_plot(plot_variables.plotType);
-  std::vector<std::string> rows;
-  for (int slot = 0; slot < PLOT_SLOT_COUNT; slot += stride)
-    rows.push_back(stride == 1 ? slot_name(slot) : slot_name(slot) + ", " + slot_name(slot + 1));
-  return rows;
-}
-
 std::vector<std::string> pair_rows() {
   std::vector<std::string> rows;
   for (int row = 0; row < FUNCTION_PAIR_COUNT; ++row) {
     const TFunctionPair pair = function_pair(row);
-    rows.push_back(slot_name(pair.first) + " & " + slot_name(pair.second));
+    rows.push_back(std::string(slot_label(pair.first)) + " & " + slot_label(pair.second));
   }
   return rows;
 }
@@ -150,7 +135,7 @@ class TCalculateForm {
     const bool crosses = shown == CALCULATE_INTERSECTION;
     dialog[DESCRIPTION].text = description_of(shown);
     dialog[FUNCTION].label = crosses ? "Functions:" : "Function:";
-    set_rows(dialog[FUNCTION], crosses ? pair_rows() : function_rows(),
+    set_rows(dialog[FUNCTION], crosses ? pair_rows() : curve_labels(),
              crosses ? choice_.pair : choice_.function);
     dialog[FUNCTION].visible = calculations[shown].needs_function;
     dialog[VALUE].visible = calculations[shown].needs_value;

@@ -1,7 +1,6 @@
 // Plot Functions: the expressions of the current plot type and which of them the trace cursor follows.
 
 #include <string>
-#include <vector>
 
 #include "engine/hooks.h"
 #include "engine/text_form.h"
@@ -9,6 +8,7 @@
 #include "platform/dialog.h"
 #include "platform/platform.h"
 #include "plot/plot.h"
+#include "plot/plot_names.h"
 #include "plot/plot_slots.h"
 
 namespace zephyl {
@@ -23,16 +23,6 @@ constexpr int TRACE = PLOT_SLOT_COUNT * LINE_CONTROLS;
 constexpr int OK = TRACE + 1;
 
 int control_of(int slot, TLineControl part) { return slot * LINE_CONTROLS + part; }
-
-const char* slot_label(int slot) {
-  constexpr const char* surface_labels[][PLOT_SLOT_COUNT] = {
-      {"X1(u,v)", "Y1(u,v)", "Z1(u,v)", "X2(u,v)", "Y2(u,v)", "Z2(u,v)"},
-      {"(theta)1(u,v)", "R1(u,v)", "Z1(u,v)", "(theta)2(u,v)", "R2(u,v)", "Z2(u,v)"},
-      {"(theta)1(u,v)", "(Psi)1(u,v)", "R1(u,v)", "(theta)2(u,v)", "(Psi)2(u,v)", "R2(u,v)"}};
-  const TPlotVariables& plot = plot_variables;
-  if (plot.plotType == PLOT_3D) return surface_labels[plot.plotType3D][slot];
-  return function_slot_name(plot.plotType * PLOT_SLOT_COUNT + slot);
-}
 
 std::string slot_text(int slot) {
   char text[4000];
@@ -57,22 +47,10 @@ void add_line(TDialog& dialog, int slot) {
   dialog.add(clear);
 }
 
-// The curves and surfaces, each by the names of its slots.
-std::vector<std::string> trace_rows() {
-  std::vector<std::string> rows;
-  const int stride = slots_per_plot(plot_variables.plotType);
-  for (int slot = 0; slot < PLOT_SLOT_COUNT; slot += stride) {
-    std::string row = slot_label(slot);
-    for (int i = 1; i < stride; ++i) row += std::string(", ") + slot_label(slot + i);
-    rows.push_back(row);
-  }
-  return rows;
-}
-
 void add_controls(TDialog& dialog) {
   for (int slot = 0; slot < PLOT_SLOT_COUNT; ++slot) add_line(dialog, slot);
   const int traced = trace_function() / slots_per_plot(plot_variables.plotType);
-  dialog.add(combo_control("Trace Function:", trace_rows(), traced));
+  dialog.add(combo_control("Trace Function:", curve_labels(), traced));
   add_ok_cancel(dialog);
 }
 

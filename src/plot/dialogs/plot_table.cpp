@@ -6,8 +6,8 @@
 #include "engine/field_value.h"
 #include "platform/dialog.h"
 #include "platform/platform.h"
-#include "plot/parameter_names.h"
 #include "plot/plot.h"
+#include "plot/plot_names.h"
 #include "plot/plot_table.h"
 
 namespace zephyl {
