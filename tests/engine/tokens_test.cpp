@@ -310,5 +310,25 @@ TEST_F(calculator, every_slot_has_a_recall_and_a_store) {
   }
 }
 
+TEST_F(calculator, brackets_and_functions_with_arguments_open_a_group) {
+  const struct {
+    int opens, closes;
+  } rows[] = {{3, 4}, {42, 4}, {103, 104}, {203, 204}, {5, 4}, {483, 4}, {1997, 4}, {181, 4}};
+  for (const auto& row : rows) {
+    EXPECT_EQ(closing_token(static_cast<TToken>(row.opens)), row.closes) << row.opens;
+    EXPECT_FALSE(closes_group(static_cast<TToken>(row.opens))) << row.opens;
+  }
+  // A digit, +, clrDraw(), a call without arguments, a character of a string.
+  const TToken clear_drawing = operation_token(OP_CLR_DRAW);
+  for (const TToken token : {TToken{38}, TToken{36}, clear_drawing, TToken{182}, TToken{708}}) {
+    EXPECT_EQ(closing_token(token), 0) << token;
+    EXPECT_FALSE(closes_group(token)) << token;
+  }
+  for (const int token : {4, 43, 104, 204}) {
+    EXPECT_TRUE(closes_group(static_cast<TToken>(token))) << token;
+    EXPECT_EQ(closing_token(static_cast<TToken>(token)), 0) << token;
+  }
+}
+
 }  // namespace
 }  // namespace zephyl
