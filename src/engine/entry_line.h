@@ -5,8 +5,6 @@
 
 namespace zephyl {
 
-// The note of a line that is full.
-void note_size_limit();
 // Postfix and infix operators, stores into memories and unit conversions: they go on with the answer after a
 // result.
 bool wants_left_operand(TToken token);

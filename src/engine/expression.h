@@ -9,6 +9,8 @@ using TToken = std::uint16_t;
 
 constexpr int EXPRESSION_LIMIT = 99;  // the most tokens a line holds
 constexpr int HISTORY_LIMIT = 20;
+// The note that an expression is full.
+void note_size_limit();
 
 struct TExpression {
   TToken tokens[106] = {};

@@ -9,6 +9,8 @@
 #include "engine/format.h"
 #include "engine/state.h"
 #include "engine/text_form.h"
+#include "platform/dialog.h"
+#include "platform/platform.h"
 
 namespace zephyl {
 
@@ -43,6 +45,14 @@ bool field_value(const std::string& text, double& value, std::string& error) {
   error = good ? "" : errors.error_text;
   bring_back();
   return good;
+}
+
+bool read_field(const TControl& edit, double& value) {
+  if (edit.text == field_text(value)) return true;
+  std::string error;
+  if (field_value(edit.text, value, error)) return true;
+  platform().show_message(error.c_str(), "Error");
+  return false;
 }
 
 std::string field_text(double value) {

@@ -23,28 +23,8 @@ TFunctionStores pending;
 
 constexpr int STORED_TOKENS_LIMIT = 100;
 
-// +1 for a token that closes a parenthesis, -1 for one that opens one, as functions do.
-int closes(TToken token) {
-  const TOp_Code op = token_operation(token);
-  if (op != OP_NONE) {
-    const int kind = operation_array[op].arg_kind;
-    return is_function_kind(kind) && kind != KIND_NO_ARGUMENT && kind != KIND_CALL ? -1 : 0;
-  }
-  switch (decode_token(token).special) {
-    case SPECIAL_OPEN_PAREN:
-    case SPECIAL_OPEN_BRACK_1:
-    case SPECIAL_OPEN_BRACK_2:
-    case SPECIAL_OPEN_HIDDEN:
-      return -1;
-    case SPECIAL_CLOSE_PAREN:
-    case SPECIAL_CLOSE_BRACK_1:
-    case SPECIAL_CLOSE_BRACK_2:
-    case SPECIAL_CLOSE_HIDDEN:
-      return 1;
-    default:
-      return 0;
-  }
-}
+// How a token changes the number of groups that are open, read from the end of an expression.
+int closes(TToken token) { return closes_group(token) ? 1 : closing_token(token) != 0 ? -1 : 0; }
 
 // Where the tokens begin that a store at `index` keeps: behind the last comma outside of parentheses.
 int first_stored(const TExpression& expression, int index) {

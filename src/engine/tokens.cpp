@@ -128,11 +128,11 @@ constexpr TSingleRow single_rows[] = {
     digit(519, "b"),
     digit(619, "o"),
     special(TOKEN_OPEN, SPECIAL_OPEN_PAREN, "start_paren"),
-    special(103, SPECIAL_OPEN_BRACK_1, "start_brack_1"),
+    special(TOKEN_OPEN_BRACKET, SPECIAL_OPEN_BRACK_1, "start_brack_1"),
     special(TOKEN_OPEN_BRACE, SPECIAL_OPEN_BRACK_2, "start_brack_2"),
     special(TOKEN_OPEN_HIDDEN, SPECIAL_OPEN_HIDDEN, "start_paren_hidden"),
     special(TOKEN_CLOSE, SPECIAL_CLOSE_PAREN, "end_paren"),
-    special(104, SPECIAL_CLOSE_BRACK_1, "end_brack_1"),
+    special(TOKEN_CLOSE_BRACKET, SPECIAL_CLOSE_BRACK_1, "end_brack_1"),
     special(TOKEN_CLOSE_BRACE, SPECIAL_CLOSE_BRACK_2, "end_brack_2"),
     special(TOKEN_CLOSE_HIDDEN, SPECIAL_CLOSE_HIDDEN, "end_paren_hidden"),
     special(TOKEN_ANS, SPECIAL_ANS, "Ans"),
@@ -315,6 +315,38 @@ TOp_Code token_operation(TToken token) {
 
 TToken operation_token(TOp_Code op) {
   return op >= 0 && op < OPERATION_COUNT ? operation_map.token_of[op] : TToken{0};
+}
+
+TToken closing_token(TToken token) {
+  const TOp_Code op = token_operation(token);
+  if (op != OP_NONE) {
+    const int kind = operation_array[op].arg_kind;
+    const bool opens = is_function_kind(kind) && kind != KIND_NO_ARGUMENT && kind != KIND_CALL;
+    return static_cast<TToken>(opens ? TOKEN_CLOSE : 0);
+  }
+  switch (decode_token(token).special) {
+    case SPECIAL_OPEN_PAREN:
+    case SPECIAL_OPEN_HIDDEN:
+      return TOKEN_CLOSE;
+    case SPECIAL_OPEN_BRACK_1:
+      return TOKEN_CLOSE_BRACKET;
+    case SPECIAL_OPEN_BRACK_2:
+      return TOKEN_CLOSE_BRACE;
+    default:
+      return 0;
+  }
+}
+
+bool closes_group(TToken token) {
+  switch (decode_token(token).special) {
+    case SPECIAL_CLOSE_PAREN:
+    case SPECIAL_CLOSE_BRACK_1:
+    case SPECIAL_CLOSE_BRACK_2:
+    case SPECIAL_CLOSE_HIDDEN:
+      return true;
+    default:
+      return false;
+  }
 }
 
 TToken recall_token(int slot) { return static_cast<TToken>(FIRST_RECALL_HIGH + slot); }

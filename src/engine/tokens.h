@@ -56,6 +56,8 @@ enum : TToken {
   TOKEN_ANS = 41,
   TOKEN_OPEN_HIDDEN = 42,
   TOKEN_CLOSE_HIDDEN = 43,
+  TOKEN_OPEN_BRACKET = 103,
+  TOKEN_CLOSE_BRACKET = 104,
   TOKEN_INV_LN = 111,
   TOKEN_PI = 117,
   TOKEN_RAND = 118,
@@ -124,6 +126,11 @@ inline bool is_conversion_token(TToken token) { return token >= FIRST_CONVERSION
 TOp_Code token_operation(TToken token);
 // The token that enters an operation; 0 for one that only the compiler makes.
 TToken operation_token(TOp_Code op);
+
+// The token that closes the group which a token opens, as functions with arguments do; 0 for one that opens
+// none.
+TToken closing_token(TToken token);
+bool closes_group(TToken token);
 
 // The tokens that the variable keys enter, of the ranges that reach every slot: 2000 and 3000 plus slot.
 TToken recall_token(int slot);

@@ -59,6 +59,7 @@ int select_plane_cursor(int key) { return select_cursor(key - 20); }
 // On a plane the same key calculates.
 int rotate_or_calculate(int) {
   if (plot_variables.plotType == PLOT_3D) return select_cursor(CURSOR_ROTATE);
+  open_plot_calculate();
   return KEY_DONE;
 }
 

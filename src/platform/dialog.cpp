@@ -77,10 +77,10 @@ void TDialog::close(int result) {
 }
 
 // The procedure may itself act on the dialog; what it said about its own event stands through that.
-void TDialog::tell(TDialogEventKind kind, int control) {
+void TDialog::tell(TDialogEventKind kind, int control, int rows) {
   if (closed_) return;
   const bool outer_keep_open = std::exchange(keep_open_, false);
-  if (procedure) procedure(*this, {kind, control});
+  if (procedure) procedure(*this, {kind, control, rows});
   if (!closed_ && kind == CONTROL_ACTIVATED && control >= 0 && control < count()) after_activation(control);
   keep_open_ = outer_keep_open;
 }
@@ -223,6 +223,12 @@ bool activate_row(TDialog& dialog, int control) {
   if (!can_be_used(dialog, control) || dialog[control].selected < 0) return false;
   if (dialog[control].kind != CONTROL_LIST && dialog[control].kind != CONTROL_TABLE) return false;
   dialog.tell(CONTROL_ACTIVATED, control);
+  return true;
+}
+
+bool scroll_rows(TDialog& dialog, int control, int rows) {
+  if (!can_be_used(dialog, control) || !dialog[control].scrolls) return false;
+  dialog.tell(CONTROL_SCROLLED, control, rows);
   return true;
 }
 

@@ -51,6 +51,7 @@ struct TControl {
   std::vector<TSurface> picture;   // of picture: none or one
   int text_limit = 0;              // of edit: the most characters (of UTF-8), 0 any number
   int lines = 1;                   // height of text, edit, list and table, in lines
+  bool scrolls = false;            // of table: its rows are a window on more of them, which the procedure moves
   bool beside = false;             // stands to the right of the control before it, not below
   bool enabled = true;
   bool visible = true;
@@ -60,12 +61,14 @@ enum TDialogEventKind {
   DIALOG_OPENED,   // once, before it shows
   CONTROL_CHANGED,  // the user chose a row, edited a text, moved a slider, set a mark; the control has its new value
   CONTROL_ACTIVATED,  // a button was pressed, or a row of a list or table was double-clicked
+  CONTROL_SCROLLED,  // the user moved beyond the rows of a table that `scrolls`
   DIALOG_TICK      // `tick_interval` has passed
 };
 
 struct TDialogEvent {
   TDialogEventKind kind = DIALOG_OPENED;
   int control = -1;  // index in `controls`
+  int rows = 0;      // of CONTROL_SCROLLED: how far; down, or up for less than 0
 };
 
 constexpr int DIALOG_CANCELLED = -1;
@@ -93,7 +96,7 @@ class TDialog {
   // BUTTON_CANCEL closes the dialog if the procedure leaves it open; one of the role BUTTON_DEFAULT likewise, with
   // result 0, unless `keep_open` was called. The row of a list that was double-clicked presses the default button
   // under the same condition. A closed dialog is told nothing more.
-  void tell(TDialogEventKind kind, int control = -1);
+  void tell(TDialogEventKind kind, int control = -1, int rows = 0);
   // Of the procedure: what was pressed doesn't close the dialog (a field could not be read).
   void keep_open() { keep_open_ = true; }
 
@@ -145,6 +148,8 @@ bool set_checked(TDialog& dialog, int control, bool on);
 bool press_button(TDialog& dialog, int control);
 // A double click on the selected row of a list or table.
 bool activate_row(TDialog& dialog, int control);
+// Moves the window of a table that scrolls.
+bool scroll_rows(TDialog& dialog, int control, int rows);
 // Presses the cancel button, or where there is none closes the dialog.
 void cancel_dialog(TDialog& dialog);
 // The index of the control that a script or a test names: its label, with or without the last colon, or "#N". Among

@@ -93,6 +93,11 @@ double evaluate_plot_function(int plot_type, double parameter1, double parameter
   return value;
 }
 
+TPlotNumber plot_number(int plot_type, double parameter, int slot) {
+  const double value = evaluate_plot_function(plot_type, parameter, 0.0, slot);
+  return {value, plot_error_code};
+}
+
 bool samples_are_quick() { return compiled.all_plain; }
 
 }  // namespace zephyl

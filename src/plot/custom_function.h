@@ -1,6 +1,7 @@
 // The evaluation of one plot slot at one parameter value, without a trace in the calculator.
 #pragma once
 
+#include "engine/values.h"
 #include "plot/plot_slots.h"
 
 namespace zephyl {
@@ -22,6 +23,16 @@ double custom_function(int plot_type, double parameter1, double parameter2, int 
 
 // The three phases for a single sample. An empty slot is undefined without an error.
 double evaluate_plot_function(int plot_type, double parameter1, double parameter2, int slot);
+
+// A value, or the error in its place.
+struct TPlotNumber {
+  double value = undefined_value;
+  int error = UNDEFINED_WITHOUT_ERROR;
+
+  bool defined() const { return value != undefined_value; }
+};
+// The same sample as a number of its own.
+TPlotNumber plot_number(int plot_type, double parameter, int slot);
 
 // True if the samples of the run that has begun cost next to nothing: they need no look at the clock of their
 // own.

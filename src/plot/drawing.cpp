@@ -61,12 +61,16 @@ void update_drawing() {
   if (state.calcMode == PLOT_MODE) hooks.request_plot_redraw();
 }
 
-void drawing_changed() {
-  drawing.drawing_used = true;
+void show_drawing() {
   if (drawing.suspend_update && state.program_running)
     drawing.update_pending = true;
   else
     update_drawing();
+}
+
+void drawing_changed() {
+  drawing.drawing_used = true;
+  show_drawing();
 }
 
 void resume_drawing_updates() {

@@ -42,6 +42,8 @@ void draw_line_to(double x, double y);
 // The layer was painted on: it shows at once in PLOT_MODE, and with the plot's next drawing elsewhere. In a
 // program that has used updateDraw(), with the next one.
 void drawing_changed();
+// What lies under the drawing has changed: the screen follows as after a painting.
+void show_drawing();
 // Shows what was drawn in any case.
 void update_drawing();
 // A program begins or ends: the effect of updateDraw() ends, and what waited for it shows.

@@ -51,8 +51,10 @@ void initialise(const TScalarCall& call) {
   if (defaults) set_plot_defaults();
   plot_variables.displayGrid = grid;
   plot_variables.enablePlots = plots;
+  const bool shows_already = state.calcMode == PLOT_MODE;
   enter_plot_mode();
   hooks.plot_changed();
+  if (shows_already) show_drawing();
 }
 
 void set_defaults(const TScalarCall&) { set_plot_defaults(); }

@@ -109,6 +109,15 @@ double function_row(double f) {
   return clamp_pixel(-f);
 }
 
+double function_column(double x) {
+  const double range = plot_variables.xMax - plot_variables.xMin;
+  constexpr double tolerance = 1e-6;  // of a column
+  const double column = std::floor((x - plot_variables.xMin) / (range * PIXEL_PART) + tolerance);
+  if (std::isfinite(column)) return clamp_pixel(column);
+  clear_faults();
+  return clamp_pixel(x);
+}
+
 void draw_plot_function(TSurface& target) {
   for (int slot = 0; slot < PLOT_SLOT_COUNT && !plot_cancelled; ++slot)
     if (slot_in_use(PLOT_FUNCTION, slot)) draw_slot(target, slot);

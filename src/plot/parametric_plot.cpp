@@ -60,13 +60,20 @@ void draw_pair(TSurface& target, int slot, const TSamples& samples) {
 void draw_radius(TSurface& target, int slot, const TSamples& samples) {
   TTracedCurve curve(target, PLOT_POLAR, slot);
   for_samples(PLOT_POLAR, slot, samples, [&](int i, double r) {
-    const double angle = to_radians(samples[i]);
-    const bool defined = r != undefined_value;
-    curve.add(i, samples[i], defined ? std::cos(angle) * r : r, defined ? std::sin(angle) * r : r);
+    double x, y;
+    polar_point(samples[i], r, x, y);
+    curve.add(i, samples[i], x, y);
   });
 }
 
 }  // namespace
+
+void polar_point(double angle, double r, double& x, double& y) {
+  x = y = undefined_value;
+  if (r == undefined_value) return;
+  x = std::cos(to_radians(angle)) * r;
+  y = std::sin(to_radians(angle)) * r;
+}
 
 TSamples samples_of(double min, double max, double step) {
   TSamples samples{min, max, step > 0.0 ? step : 0.0, 0};

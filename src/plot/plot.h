@@ -42,6 +42,9 @@ void cursor_home();
 void set_plot_cursor(int cursor);
 void open_plot_setup();
 void open_plot_functions();
+// Calculates what is chosen there and shows it over the plot, or opens the table. Not in 3D.
+void open_plot_calculate();
+void open_plot_table();
 
 // The Plot key of COMP_MODE: the entry line, which has compiled, goes into a free slot of the current plot
 // type, and Plot Functions opens.

@@ -12,6 +12,7 @@
 #include "plot/custom_function.h"
 #include "plot/drawing.h"
 #include "plot/plot.h"
+#include "plot/plot_calculate.h"
 #include "plot/plot_grid.h"
 #include "plot/plot_kinds.h"
 #include "plot/plot_labels.h"
@@ -139,6 +140,7 @@ void reset_plot() {
   reset_plot_slots();
   reset_plot_screen();
   plot_point_count = 0;
+  plot_calculation = {};
 }
 
 }  // namespace zephyl

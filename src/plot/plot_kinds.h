@@ -13,8 +13,13 @@ void draw_plot_function(TSurface& target);
 // PLOT_PARAMETRIC: the pairs X1(t), Y1(t) to X3(t), Y3(t); PLOT_POLAR: R1(theta) to R6(theta).
 void draw_parametric_polar(TSurface& target, int plot_type);
 
-// The row of a value f in a function plot, clamped; its middle row is 90.
+// The row of a value f in a function plot, clamped; its middle row is 90. The column of an x, likewise: that
+// whose sample is taken there.
 double function_row(double f);
+double function_column(double x);
+
+// Where the radius r at an angle lies, both undefined for an undefined radius.
+void polar_point(double angle, double r, double& x, double& y);
 
 // --- Parameter ranges
 

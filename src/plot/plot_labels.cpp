@@ -21,38 +21,45 @@ constexpr int LINE_HEIGHT = 9;
 constexpr int FIRST_LINE = 2;
 constexpr int DECIMALS = 10;
 
+// The same word in the small font and as text.
 struct TErrorWord {
   int code;
   const char* name;
+  const char* text;
 };
 
 constexpr TErrorWord error_words[] = {
-    {ERR_OVERFLOW, "SMALL_OVERFLOW"},
-    {ERR_OVERFLOW_TOO, "SMALL_OVERFLOW"},
-    {ERR_ZERO_DIVIDE, "SMALL_DIV_BY_ZERO"},
-    {ERR_MATH, "SMALL_DOMAIN"},
-    {ERR_DOMAIN, "SMALL_DOMAIN"},
-    {ERR_SYNTAX, "SMALL_SYNTAX_ERROR"},
-    {ERR_ARGUMENT_COUNT, "SMALL_SYNTAX_ERROR"},
-    {ERR_PARENTHESIS_UNBALANCED, "SMALL_SYNTAX_ERROR"},
-    {ERR_TO_HMS_NOT_LAST, "SMALL_SYNTAX_ERROR"},
-    {ERR_NO_STATS_DATA, "SMALL_NO_DATA"},
-    {ERR_NO_STATS_Y_DATA, "SMALL_NO_DATA"},
-    {ERR_DATA_TYPE, "SMALL_DATA_TYPE"},
-    {ERR_ARGUMENT_TYPE, "SMALL_DATA_TYPE"},
-    {ERR_NO_ROOT, "SMALL_NO_ROOT_FOUND"},
-    {ERR_NO_INTERSECTION, "SMALL_NO_INTERSECT_FOUND"},
-    {UNDEFINED_WITHOUT_ERROR, "SMALL_UNDEFINED"},
+    {ERR_OVERFLOW, "SMALL_OVERFLOW", "Overflow"},
+    {ERR_OVERFLOW_TOO, "SMALL_OVERFLOW", "Overflow"},
+    {ERR_ZERO_DIVIDE, "SMALL_DIV_BY_ZERO", "Div by Zero"},
+    {ERR_MATH, "SMALL_DOMAIN", "Domain"},
+    {ERR_DOMAIN, "SMALL_DOMAIN", "Domain"},
+    {ERR_SYNTAX, "SMALL_SYNTAX_ERROR", "Syntax"},
+    {ERR_ARGUMENT_COUNT, "SMALL_SYNTAX_ERROR", "Syntax"},
+    {ERR_PARENTHESIS_UNBALANCED, "SMALL_SYNTAX_ERROR", "Syntax"},
+    {ERR_TO_HMS_NOT_LAST, "SMALL_SYNTAX_ERROR", "Syntax"},
+    {ERR_NO_STATS_DATA, "SMALL_NO_DATA", "No Stats Data"},
+    {ERR_NO_STATS_Y_DATA, "SMALL_NO_DATA", "No Stats y Data"},
+    {ERR_DATA_TYPE, "SMALL_DATA_TYPE", "Data Type"},
+    {ERR_ARGUMENT_TYPE, "SMALL_DATA_TYPE", "Data Type"},
+    {ERR_NO_ROOT, "SMALL_NO_ROOT_FOUND", "No Root Found"},
+    {ERR_NO_INTERSECTION, "SMALL_NO_INTERSECT_FOUND", "No Intersection Found"},
+    {UNDEFINED_WITHOUT_ERROR, "SMALL_UNDEFINED", "Undefined"},
 };
 
-}  // namespace
+constexpr TErrorWord any_other_error = {-1, "SMALL_ERROR", "Error"};
 
-const char* small_error_word(int error_code) {
+const TErrorWord& error_word(int error_code) {
   const TErrorWord* word =
       std::find_if(std::begin(error_words), std::end(error_words),
                    [error_code](const TErrorWord& row) { return row.code == error_code; });
-  return word != std::end(error_words) ? word->name : "SMALL_ERROR";
+  return word != std::end(error_words) ? *word : any_other_error;
 }
+
+}  // namespace
+
+const char* small_error_word(int error_code) { return error_word(error_code).name; }
+const char* error_word_text(int error_code) { return error_word(error_code).text; }
 
 int draw_small_word(TSurface& surface, const char* name, int left, int top) {
   const TBitmap* word = hooks.bitmap(name);
@@ -86,14 +93,24 @@ void lay_over(TSurface& surface, const TSurface& line, int width, int left, int 
     }
 }
 
+TSurface& empty_line() {
+  static TSurface line(PLOT_WIDTH, LINE_HEIGHT);
+  line.fill({0, 0, PLOT_WIDTH - 1, LINE_HEIGHT - 1}, WHITE);
+  return line;
+}
+
 }  // namespace
 
 int draw_small_line(TSurface& surface, const char* name, double value, int left, int top) {
-  static TSurface line(PLOT_WIDTH, LINE_HEIGHT);
-  line.fill({0, 0, PLOT_WIDTH - 1, LINE_HEIGHT - 1}, WHITE);
+  TSurface& line = empty_line();
   const int width = draw_plain_line(line, name, value, 0, 0);
   lay_over(surface, line, width, left, top);
   return left + width;
+}
+
+void draw_small_heading(TSurface& surface, const char* name, int left, int top) {
+  TSurface& line = empty_line();
+  lay_over(surface, line, draw_small_word(line, name, 0, 0), left, top);
 }
 
 void draw_view_labels(TSurface& surface) {

@@ -39,13 +39,15 @@ bool set_plot_view(double xMin, double yMin, double xMax, double yMax) {
 }
 
 void set_plot_defaults() {
-  const int type_3d = plot_variables.plotType3D;
+  const int type = plot_variables.plotType, type_3d = plot_variables.plotType3D;
   plot_variables = {};
   plot_variables.plotType3D = type_3d;
   plot_variables.t = plot_variables.v = one_turn();
   hooks.redraw_part(PART_TRACE_LEDS);
   hooks.redraw_title();
   hooks.plot_changed();
+  // The keys of the third dimension go.
+  if (type == PLOT_3D) platform().invalidate(false);
 }
 
 void set_plot_type(int plot_type) {

@@ -17,9 +17,6 @@ namespace zephyl {
 
 namespace {
 
-constexpr int UPPER_ROW = 160;
-constexpr int LOWER_ROW = 170;
-
 // Side by side on a row.
 void draw_numbers(TSurface& surface, const char* left_name, double left, const char* right_name, double right,
                   int row) {

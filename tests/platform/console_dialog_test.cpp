@@ -57,6 +57,23 @@ TEST(console_dialog, prints_what_there_is) {
   EXPECT_EQ(dialog.result(), DIALOG_CANCELLED);
 }
 
+TEST(console_dialog, a_table_scrolls_by_a_signed_number) {
+  for (const bool scrolls : {false, true}) {
+    TDialog dialog(213, "Plot Table");
+    dialog.add(table_control("", {{"x", 0}}, {"1", "2", "3"}));
+    dialog[0].scrolls = scrolls;
+    std::vector<int> scrolled;
+    dialog.procedure = [&](TDialog&, const TDialogEvent& event) {
+      if (event.kind == CONTROL_SCROLLED) scrolled.push_back(event.rows);
+    };
+    testing::internal::CaptureStdout();
+    talk_through(dialog, lines({"1", "+4", "1", "-12", "1", "+", "1", "2"}));
+    testing::internal::GetCapturedStdout();
+    EXPECT_EQ(scrolled, scrolls ? (std::vector<int>{4, -12}) : std::vector<int>{});
+    EXPECT_EQ(dialog[0].selected, 1);
+  }
+}
+
 TEST(console_dialog, an_empty_line_is_the_default_button) {
   TDialog dialog = sample();
   testing::internal::CaptureStdout();

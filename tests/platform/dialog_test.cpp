@@ -250,6 +250,19 @@ TEST_F(dialog, a_double_click_on_a_table_only_tells) {
   EXPECT_FALSE(activate_row(dialog_, 1));
 }
 
+TEST_F(dialog, a_table_that_scrolls_tells_how_far) {
+  dialog_.add(table_control("", {{"n", 30}}, {"1", "2"}));
+  EXPECT_FALSE(scroll_rows(dialog_, 0, 3));
+  dialog_[0].scrolls = true;
+  EXPECT_TRUE(scroll_rows(dialog_, 0, -3));
+  expect_told(events_, CONTROL_SCROLLED, 0);
+  EXPECT_EQ(events_[0].rows, -3);
+  EXPECT_EQ(dialog_[0].selected, 0);
+  dialog_[0].enabled = false;
+  EXPECT_FALSE(scroll_rows(dialog_, 0, 1));
+  EXPECT_FALSE(scroll_rows(dialog_, 7, 1));
+}
+
 TEST_F(dialog, the_procedure_may_add_and_drop_controls) {
   dialog_.add(button_control("More"));
   then_ = [](TDialog& told, const TDialogEvent&) { told.controls.clear(); };

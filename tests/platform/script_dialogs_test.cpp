@@ -152,6 +152,22 @@ TEST_F(script_dialogs, commands_work_the_controls) {
   EXPECT_EQ(dialog[6].value, 255);
 }
 
+TEST_F(script_dialogs, a_table_scrolls) {
+  TDialog dialog(1, "T");
+  dialog.add(table_control("Values:", {{"x", 0}}, {"1", "2"}));
+  dialog.add(table_control("", {{"x", 0}}, {"1", "2"}));
+  dialog[0].scrolls = true;
+  dialog.procedure = [](TDialog& told, const TDialogEvent& event) {
+    if (event.kind == CONTROL_SCROLLED) set_rows(told[0], {std::to_string(event.rows), "next"});
+  };
+  open_by_token(dialog);
+  EXPECT_EQ(
+      run({"tokens 1", "scroll Values -12", "scroll Values", "scroll Values x", "scroll #1 2", "dialog"}),
+      (TLines{"? it reads: scroll CONTROL ROWS, down or, below 0, up",
+              "? it reads: scroll CONTROL ROWS, down or, below 0, up", "? #1 doesn't scroll", "dialog 1 T",
+              "table Values: = -12", "  -12", "  next", "table = 1", "  1", "  2", "."}));
+}
+
 TEST_F(script_dialogs, a_combo_is_set_by_its_text_and_chosen_by_row_or_text) {
   TDialog dialog(1, "T");
   dialog.add(combo_control("Mark:", {"Dot(.)", "Comma(,)", "say \"when\""}));

@@ -19,6 +19,7 @@
 #include <QScrollBar>
 #include <QSlider>
 #include <QTableView>
+#include <QWheelEvent>
 #include <algorithm>
 #include <memory>
 #include <set>
@@ -436,6 +437,92 @@ TEST_F(dialog_window, other_rows_end_the_filter) {
   EXPECT_FALSE(filter_of(0)->isVisible());
   EXPECT_EQ(widget<QListView>(0)->model()->rowCount(), 3);
   EXPECT_EQ(widget<QListView>(0)->currentIndex().row(), 2);
+}
+
+// Tables that show a part of more rows.
+
+class scrolling_table : public dialog_window {
+ protected:
+  scrolling_table() {
+    TControl table = table_control("", {{"n", 60}}, rows(10));
+    table.scrolls = true;
+    open(of({table}));
+  }
+  QTableView* view() { return widget<QTableView>(0); }
+  // How far the dialog was asked to scroll since the last time, act by act.
+  std::vector<int> scrolled() {
+    std::vector<int> acts;
+    for (const TDialogEvent& event : events_)
+      if (event.kind == CONTROL_SCROLLED) acts.push_back(event.rows);
+    events_.clear();
+    return acts;
+  }
+  void turn_wheel(int angle) {
+    QWheelEvent event({20, 40}, view()->mapToGlobal(QPointF{20, 40}), {}, {0, angle}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(view()->viewport(), &event);
+    settle();
+  }
+};
+
+TEST_F(scrolling_table, keys_move_within_the_rows_and_then_beyond_them) {
+  send_key(view(), Qt::Key_Up);
+  EXPECT_EQ(scrolled(), std::vector<int>{-1});
+  send_key(view(), Qt::Key_Down);
+  EXPECT_EQ(dialog()[0].selected, 1);
+  EXPECT_EQ(scrolled(), std::vector<int>{});
+  for (int i = 0; i < 10; ++i) send_key(view(), Qt::Key_Down);
+  EXPECT_EQ(dialog()[0].selected, 9);
+  EXPECT_EQ(scrolled(), (std::vector<int>{1, 1}));
+  send_key(view(), Qt::Key_PageDown);
+  send_key(view(), Qt::Key_PageUp);
+  EXPECT_EQ(scrolled(), (std::vector<int>{10, -10}));
+}
+
+TEST_F(scrolling_table, the_wheel_moves_three_rows_a_notch) {
+  turn_wheel(-120);
+  turn_wheel(120);
+  EXPECT_EQ(scrolled(), (std::vector<int>{3, -3}));
+}
+
+TEST_F(scrolling_table, small_turns_of_the_wheel_add_up) {
+  for (int i = 0; i < 4; ++i) turn_wheel(-15);
+  EXPECT_EQ(scrolled(), std::vector<int>{1});
+}
+
+TEST_F(scrolling_table, the_bar_moves_the_rows_and_springs_back) {
+  QScrollBar* bar = view()->verticalScrollBar();
+  EXPECT_TRUE(bar->isVisible());
+  bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+  bar->triggerAction(QAbstractSlider::SliderPageStepSub);
+  EXPECT_EQ(scrolled(), (std::vector<int>{1, -10}));
+  EXPECT_EQ(bar->value(), 0);
+  bar->setSliderDown(true);
+  for (const int place : {4, 7, 2})
+    bar->setSliderPosition(place), bar->triggerAction(QAbstractSlider::SliderMove);
+  EXPECT_EQ(scrolled(), (std::vector<int>{4, 3, -5}));
+  bar->setSliderDown(false);
+  EXPECT_EQ(bar->value(), 0);
+  EXPECT_EQ(scrolled(), std::vector<int>{});
+}
+
+TEST_F(scrolling_table, other_rows_come_under_the_same_line) {
+  then_ = [](TDialog& told, const TDialogEvent& event) {
+    if (event.kind == CONTROL_SCROLLED) set_rows(told[0], rows(20), told[0].selected);
+  };
+  for (int i = 0; i < 4; ++i) send_key(view(), Qt::Key_Down);
+  send_key(view(), Qt::Key_PageDown);
+  EXPECT_EQ(view()->currentIndex().row(), 4);
+  EXPECT_EQ(dialog()[0].selected, 4);
+}
+
+TEST_F(scrolling_table, a_table_that_has_all_its_rows_does_not_scroll) {
+  open(of({table_control("", {{"n", 60}}, rows(10))}));
+  send_key(view(), Qt::Key_Up);
+  send_key(view(), Qt::Key_PageDown);
+  turn_wheel(-120);
+  EXPECT_EQ(scrolled(), std::vector<int>{});
+  EXPECT_EQ(dialog()[0].selected, 9);
 }
 
 TEST_F(dialog_window, a_double_click_on_a_list_is_ok) {

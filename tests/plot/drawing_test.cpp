@@ -221,6 +221,20 @@ TEST_F(drawing_layer, initialising_sets_the_plot_screen_up) {
   EXPECT_EQ(plot_variables.displayGrid, 1);
 }
 
+TEST_F(drawing_layer, initialising_shows_at_once_where_the_plot_shows_already) {
+  state.program_running = true;
+  run(OP_INIT_DRAW);
+  EXPECT_EQ(redraws, 0) << "the mode's own paint shows it";
+  run(OP_INIT_DRAW);
+  EXPECT_EQ(redraws, 1);
+  run(OP_UPDATE_DRAW);
+  EXPECT_EQ(redraws, 2);
+  run(OP_INIT_DRAW);
+  EXPECT_EQ(redraws, 2) << "a program that shows its drawing itself";
+  run(OP_UPDATE_DRAW);
+  EXPECT_EQ(redraws, 3);
+}
+
 TEST_F(drawing_layer, initialising_changes_nothing_where_a_switch_is_neither_0_nor_1) {
   eval("fillCirc(0,0,5)");
   for (const char* wrong :

@@ -4,6 +4,7 @@
 
 #include "engine/state.h"
 #include "platform/dialog.h"
+#include "plot/dialog_acts.h"
 #include "plot/plotting.h"
 
 namespace zephyl {
@@ -20,27 +21,6 @@ class plot_dialogs : public plotting {
   void functions(const TAct& act) {
     platform_.dialog_answers.push_back(act);
     open_plot_functions();
-  }
-  static void write(TDialog& dialog, const std::string& control, const std::string& text) {
-    ASSERT_TRUE(set_text(dialog, find_control(dialog, control), text)) << control;
-  }
-  static void select(TDialog& dialog, const std::string& control, int row) {
-    ASSERT_TRUE(choose_row(dialog, find_control(dialog, control), row)) << control;
-  }
-  static void check(TDialog& dialog, const std::string& control, bool on) {
-    ASSERT_TRUE(set_checked(dialog, find_control(dialog, control), on)) << control;
-  }
-  static void press(TDialog& dialog, const std::string& control) {
-    ASSERT_TRUE(press_button(dialog, find_control(dialog, control))) << control;
-  }
-  static std::string labels(const TDialog& dialog) {
-    std::string text;
-    for (const TControl& control : dialog.controls)
-      if (control.visible) text += control.label + "|";
-    return text;
-  }
-  static std::string text_of(const TDialog& dialog, const std::string& control) {
-    return dialog[find_control(dialog, control)].text;
   }
 };
 

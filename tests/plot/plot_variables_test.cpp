@@ -191,6 +191,15 @@ TEST_F(plot_variable, the_type_shows_in_the_title_and_the_front) {
   EXPECT_TRUE(platform_.paint_requested);
 }
 
+TEST_F(plot_variable, defaults_take_the_keys_of_3d_from_the_screen) {
+  platform_.paint_requested = false;
+  set_plot_defaults();
+  EXPECT_FALSE(platform_.paint_requested);
+  set_plot_type(PLOT_3D);
+  set_plot_defaults();
+  EXPECT_TRUE(platform_.paint_requested);
+}
+
 TEST_F(plot_variable, defaults_bring_all_back_but_the_kind_of_3d) {
   plot_variables = {PLOT_3D, PLOT_SPHERICAL, CURSOR_ROTATE, 0, 0, 0, 1, 2, 3,
                     4,       {1, 2, 3},      {4, 5, 6},     7, 8, 9};

@@ -80,10 +80,15 @@ bool TDerivative::end_of_round() {
 
 namespace {
 
+// The place of the derivative: the last argument or, of a plot form, x as it is.
+double place_of(const TScalarCall& call) {
+  return is_plot_form(call.op) ? memory_array[SLOT_X].re : call.args[2].re;
+}
+
 void derivative_operation(TScalarCall& call) {
   TDerivative& derivative = method_state<TDerivative>(call);
   if (begins(call)) {
-    if (begin_operator(call)) ask_at(call, derivative.start(call.args[2].re));
+    if (begin_operator(call)) ask_at(call, derivative.start(place_of(call)));
     return;
   }
   double place = 0.0;
@@ -93,6 +98,8 @@ void derivative_operation(TScalarCall& call) {
 
 }  // namespace
 
-void register_derivative_operator() { operations[OP_FN_DERIV].scalar = derivative_operation; }
+void register_derivative_operator() {
+  for (const TOp_Code op : {OP_FN_DERIV, OP_PLOT_FN_DERIV}) operations[op].scalar = derivative_operation;
+}
 
 }  // namespace zephyl

@@ -108,7 +108,9 @@ template <int sign>
 void minimum_operation(TScalarCall& call) {
   TMinimum& minimum = method_state<TMinimum>(call);
   if (begins(call)) {
-    if (begin_operator(call)) ask_at(call, minimum.start(call.args[2].re, call.args[3].re));
+    const TBounds bounds = search_bounds(call);
+    const int scan = is_plot_form(call.op) ? TMinimum::QUICK_SCAN : TMinimum::FULL_SCAN;
+    if (begin_operator(call)) ask_at(call, minimum.start(bounds.lower, bounds.upper, scan));
     return;
   }
   double place = 0.0;
@@ -119,8 +121,8 @@ void minimum_operation(TScalarCall& call) {
 }  // namespace
 
 void register_minimum_operators() {
-  operations[OP_FN_MIN].scalar = minimum_operation<1>;
-  operations[OP_FN_MAX].scalar = minimum_operation<-1>;
+  for (const TOp_Code op : {OP_FN_MIN, OP_PLOT_FN_MIN}) operations[op].scalar = minimum_operation<1>;
+  for (const TOp_Code op : {OP_FN_MAX, OP_PLOT_FN_MAX}) operations[op].scalar = minimum_operation<-1>;
 }
 
 }  // namespace zephyl

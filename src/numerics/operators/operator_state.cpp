@@ -3,10 +3,17 @@
 #include <cmath>
 
 #include "engine/errors.h"
+#include "engine/system_variables.h"
 
 namespace zephyl {
 
+TBounds search_bounds(const TScalarCall& call) {
+  if (!is_plot_form(call.op)) return {call.args[2].re, call.args[3].re};
+  return {read_system_variable(VAR_X_MIN).re, read_system_variable(VAR_X_MAX).re};
+}
+
 bool begin_operator(TScalarCall& call) {
+  if (is_plot_form(call.op)) call.numeric->variable = SLOT_X;
   push_loop_variable(call.numeric->variable, call.op);
   if (errors.error_flag) return false;
   call.numeric->phase = 1;

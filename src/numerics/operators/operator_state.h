@@ -15,6 +15,17 @@ namespace zephyl {
 // phase 0: the operator begins, and the value of its expression means nothing yet.
 inline bool begins(const TScalarCall& call) { return call.numeric->phase == 0; }
 
+// The forms that calculations on a plot put around a plotted function, with it as their only argument: their
+// variable is x, and they search the plot's view.
+inline bool is_plot_form(TOp_Code op) { return op >= OP_PLOT_FN_MIN && op <= OP_PLOT_FN_DERIV; }
+
+struct TBounds {
+  double lower;
+  double upper;
+};
+// Where an operator searches: between its last two arguments or, of a plot form, xMin and xMax.
+TBounds search_bounds(const TScalarCall& call);
+
 // Puts the variable's value away and enters phase 1. False, with the error reported, if that can't be.
 bool begin_operator(TScalarCall& call);
 

@@ -114,7 +114,8 @@ namespace {
 void root_operation(TScalarCall& call) {
   TRoot& root = method_state<TRoot>(call);
   if (begins(call)) {
-    if (begin_operator(call)) ask_at(call, root.start(call.args[2].re, call.args[3].re));
+    const TBounds bounds = search_bounds(call);
+    if (begin_operator(call)) ask_at(call, root.start(bounds.lower, bounds.upper));
     return;
   }
   double place = 0.0;
@@ -127,6 +128,8 @@ void root_operation(TScalarCall& call) {
 
 }  // namespace
 
-void register_root_operator() { operations[OP_FN_ROOT].scalar = root_operation; }
+void register_root_operator() {
+  for (const TOp_Code op : {OP_FN_ROOT, OP_PLOT_FN_ROOT}) operations[op].scalar = root_operation;
+}
 
 }  // namespace zephyl

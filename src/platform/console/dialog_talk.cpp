@@ -71,12 +71,21 @@ void print_rows(const TControl& control) {
     std::printf("%4d  %s\n", static_cast<int>(i + 1), control.rows[i].c_str());
 }
 
+// "+3" or "-3" rows; 0 for anything else.
+int rows_to_scroll(const std::string& line) {
+  return !line.empty() && (line[0] == '+' || line[0] == '-') ? std::atoi(line.c_str()) : 0;
+}
+
 bool work_rows(TDialog& dialog, int control, const TAsk& ask) {
   const std::size_t count = dialog[control].rows.size();
   print_rows(dialog[control]);
   std::string line;
-  if (!ask("row 1 to " + std::to_string(count) + ": ", line)) return false;
-  choose_row(dialog, control, index_of(line, count));
+  const std::string scrolling = dialog[control].scrolls ? ", +ROWS or -ROWS to scroll" : "";
+  if (!ask("row 1 to " + std::to_string(count) + scrolling + ": ", line)) return false;
+  if (!dialog[control].scrolls || rows_to_scroll(line) == 0)
+    choose_row(dialog, control, index_of(line, count));
+  else
+    scroll_rows(dialog, control, rows_to_scroll(line));
   return true;
 }
 

@@ -123,6 +123,14 @@ bool act_press(TScript& script, const TTarget& target) {
   return true;
 }
 
+bool act_scroll(TScript& script, const TTarget& target) {
+  std::int64_t rows = 0;
+  if (!read_integer(target.rest, INT32_MIN, INT32_MAX, rows)) return false;
+  if (!scroll_rows(target.dialog, target.index, static_cast<int>(rows)))
+    refuse_kind(script, target, "doesn't scroll");
+  return true;
+}
+
 bool obey_dialog(TScript& script, const std::string&) {
   const TDialog* dialog = script.platform.front_dialog();
   if (!dialog) {
@@ -146,6 +154,7 @@ bool obey_choose(TScript& script, const std::string& text) { return with_control
 bool obey_set(TScript& script, const std::string& text) { return with_control(script, text, act_set); }
 bool obey_check(TScript& script, const std::string& text) { return with_control(script, text, act_check); }
 bool obey_press(TScript& script, const std::string& text) { return with_control(script, text, act_press); }
+bool obey_scroll(TScript& script, const std::string& text) { return with_control(script, text, act_scroll); }
 
 constexpr TCommand COMMANDS[] = {
     {"dialog", "dialog", obey_dialog},
@@ -153,6 +162,7 @@ constexpr TCommand COMMANDS[] = {
     {"set", "set CONTROL TEXT", obey_set},
     {"check", "check CONTROL on|off", obey_check},
     {"press", "press CONTROL", obey_press},
+    {"scroll", "scroll CONTROL ROWS, down or, below 0, up", obey_scroll},
     {"close", "close", obey_close},
 };
 

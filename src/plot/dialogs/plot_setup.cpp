@@ -128,15 +128,6 @@ void show_variables(TDialog& dialog) {
 
 // --- OK
 
-// A field that still shows the value as it was keeps it with all its digits.
-bool read_field(const TDialog& dialog, int field, TPlotVariables& to) {
-  if (dialog[field].text == shown_value(field)) return true;
-  std::string error;
-  if (field_value(dialog[field].text, variable_of(to, field), error)) return true;
-  platform().show_message(error.c_str(), "Error");
-  return false;
-}
-
 void take_choices(const TDialog& dialog, TPlotVariables& to) {
   to.plotType3D = plot_type_3d_of_kind(dialog[TYPE].selected);
   to.plotCursor = dialog[CURSOR].selected;
@@ -161,7 +152,7 @@ void take(const TDialog& dialog, TPlotVariables wanted) {
 void accept(TDialog& dialog) {
   TPlotVariables wanted = plot_variables;
   for (const int field : fields)
-    if (!read_field(dialog, field, wanted)) return dialog.keep_open();
+    if (!read_field(dialog[field], variable_of(wanted, field))) return dialog.keep_open();
   take(dialog, wanted);
   dialog.close(0);
 }

@@ -10,7 +10,9 @@
 #include <QStylePainter>
 #include <QStyledItemDelegate>
 #include <QTableView>
+#include <QWheelEvent>
 #include <algorithm>
+#include <functional>
 
 namespace zephyl {
 
@@ -85,6 +87,8 @@ class TListView : public QListView {
   int width_ = 0;
 };
 
+// A table that scrolls asks for other rows where its own end: by the keys that go beyond the first and last
+// row, by the wheel, and by a bar that springs back to its middle.
 class TTableView : public QTableView {
  public:
   TTableView(const TRowModel& rows, int lines, QWidget* parent)
@@ -99,6 +103,14 @@ class TTableView : public QTableView {
     verticalHeader()->setDefaultSectionSize(line_height(*this));
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setStretchLastSection(true);
+  }
+
+  // scroll: asks for the rows so far down, or up for less than 0.
+  void let_scroll(std::function<void(int)> scroll) {
+    scroll_ = std::move(scroll);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    QObject::connect(verticalScrollBar(), &QScrollBar::actionTriggered, [this] { scroll_by_bar(); });
+    QObject::connect(verticalScrollBar(), &QScrollBar::sliderReleased, [this] { release_bar(); });
   }
 
   void fit(const TControl& control) {
@@ -119,9 +131,65 @@ class TTableView : public QTableView {
     const int bar = width < width_ ? horizontalScrollBar()->sizeHint().height() : 0;
     return view_size(*this, width, height_of(lines_) + bar);
   }
-  QSize minimumSizeHint() const override { return {bounded_width(0, *this), height_of(std::min(lines_, 3))}; }
+  QSize minimumSizeHint() const override {
+    return {bounded_width(0, *this), height_of(scroll_ ? lines_ : std::min(lines_, 3))};
+  }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    const int rows = scroll_ ? rows_beyond(event->key()) : 0;
+    if (rows != 0)
+      scroll_(rows);
+    else
+      QTableView::keyPressEvent(event);
+  }
+
+  void wheelEvent(QWheelEvent* event) override {
+    if (!scroll_) return QTableView::wheelEvent(event);
+    constexpr int row_of_wheel = 40;  // eighths of a degree
+    wheel_ -= event->angleDelta().y();
+    const int rows = wheel_ / row_of_wheel;
+    wheel_ -= rows * row_of_wheel;
+    if (rows != 0) scroll_(rows);
+    event->accept();
+  }
+
+  void updateGeometries() override {
+    QTableView::updateGeometries();
+    if (!scroll_) return;
+    const QSignalBlocker blocker(verticalScrollBar());
+    verticalScrollBar()->setRange(-BAR_SPAN, BAR_SPAN);
+    verticalScrollBar()->setPageStep(lines_);
+    verticalScrollBar()->setSingleStep(1);
+    if (!verticalScrollBar()->isSliderDown()) verticalScrollBar()->setValue(0);
+  }
+
+  // The rows in sight stay where they are: others come into them.
+  void scrollContentsBy(int dx, int dy) override { QTableView::scrollContentsBy(dx, scroll_ ? 0 : dy); }
 
  private:
+  static constexpr int BAR_SPAN = 20;  // rows from the middle of the bar to an end
+
+  // How far beyond the rows a key leads from the current one.
+  int rows_beyond(int key) const {
+    const int row = currentIndex().row(), last = rows_.rowCount() - 1;
+    if (key == Qt::Key_PageUp) return -lines_;
+    if (key == Qt::Key_PageDown) return lines_;
+    if (key == Qt::Key_Up && row <= 0) return -1;
+    return key == Qt::Key_Down && row >= last ? 1 : 0;
+  }
+
+  void scroll_by_bar() {
+    const int rows = verticalScrollBar()->sliderPosition() - bar_at_;
+    bar_at_ = verticalScrollBar()->isSliderDown() ? verticalScrollBar()->sliderPosition() : 0;
+    if (rows != 0) scroll_(rows);
+    if (!verticalScrollBar()->isSliderDown()) verticalScrollBar()->setSliderPosition(0);
+  }
+  void release_bar() {
+    bar_at_ = 0;
+    verticalScrollBar()->setValue(0);
+  }
+
   int column_width(const TControl& control, int column) const {
     const int text = rows_.text_width(column, fontMetrics()) + CELL_PADDING;
     const auto place = static_cast<std::size_t>(column);
@@ -137,6 +205,9 @@ class TTableView : public QTableView {
   const TRowModel& rows_;
   int lines_;
   int width_ = 0;
+  std::function<void(int)> scroll_;  // none where the rows are all there are
+  int wheel_ = 0;                    // eighths of a degree that are no row yet
+  int bar_at_ = 0;                   // where the dragged bar was last
 };
 
 // A row that is too long for it ends in dots.
@@ -199,7 +270,9 @@ class TViewWidget : public TRowsWidget {
                      [this](const QModelIndex& current) { line_chosen(current.row()); });
     QObject::connect(view_, &QAbstractItemView::doubleClicked, [this] { line_activated(); });
   }
+  TView& view() { return *view_; }
   ~TViewWidget() override {
+    view_->verticalScrollBar()->disconnect();
     view_->disconnect();
     view_->selectionModel()->disconnect();
     view_->setModel(nullptr);
@@ -299,7 +372,13 @@ std::unique_ptr<TControlWidget> make_list(TDialogUser& user, int index, const TC
 
 std::unique_ptr<TControlWidget> make_table(TDialogUser& user, int index, const TControl& control,
                                            QWidget* parent) {
-  return std::make_unique<TViewWidget<TTableView>>(user, index, control.lines, parent);
+  auto table = std::make_unique<TViewWidget<TTableView>>(user, index, control.lines, parent);
+  if (control.scrolls) {
+    table->view().let_scroll([&user, index](int rows) {
+      user.act([index, rows](TDialog& dialog) { scroll_rows(dialog, index, rows); });
+    });
+  }
+  return table;
 }
 
 }  // namespace zephyl
