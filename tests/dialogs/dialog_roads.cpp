@@ -71,6 +71,8 @@ const std::vector<TDialogRoad>& dialog_roads() {
       {209, menu_row("TVM Solver") + TWay{"press \"Amortization Schedule\""}},
       {210, menu_row("LIST Mode") + TWay{"key 8"}},
       {211, menu_row("LIST Mode") + TWay{"key 9"}},
+      {212, {"key 45", "key 23"}},
+      {213, {"key 45", "key 23", "choose Calculation \"Table\"", "press OK"}},
       {214, {"key 0", "key 25"}},
       {216, menu_row("Plot Samples")},
       {217, {"key 48", "press \"Save State\""}},
