@@ -88,6 +88,20 @@ TEST_F(money_dialogs, a_number_is_decimal) {
   }
 }
 
+TEST_F(money_dialogs, a_field_that_nobody_touches_keeps_all_its_digits) {
+  const double loan = 200000.0 / 3.0;
+  set_tvm_value(TVM_PV, loan);
+  in_solver([this](TDialog& dialog) {
+    EXPECT_EQ(text(dialog, "PV"), "66666.666667");
+    set(dialog, "N", "10");
+    press(dialog, "Solve PMT");
+    press(dialog, "Exit");
+  });
+  EXPECT_EQ(tvm_value(TVM_PV), loan);
+  EXPECT_EQ(tvm_value(TVM_N), 10.0);
+  EXPECT_EQ(tvm_value(TVM_PMT), -loan / 10.0);
+}
+
 TEST_F(money_dialogs, an_error_shows_in_a_box_and_is_cleared) {
   in_solver([this](TDialog& dialog) {
     set(dialog, "N", "10");

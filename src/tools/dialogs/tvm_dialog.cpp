@@ -57,8 +57,13 @@ void show_values(TDialog& dialog) {
   dialog[PAYMENTS_AT].selected = tvm_state.begin ? 1 : 0;
 }
 
+// A field that nobody has touched keeps the digits that it doesn't show.
+void read_value(int index, const std::string& text) {
+  if (text != field_text(tvm_value(index))) set_tvm_value(index, read_field(text));
+}
+
 void read_values(const TDialog& dialog) {
-  for (int index = 0; index < VALUE_COUNT; ++index) set_tvm_value(index, read_field(dialog[index].text));
+  for (int index = 0; index < VALUE_COUNT; ++index) read_value(index, dialog[index].text);
   set_tvm_value(TVM_PMT_AT, dialog[PAYMENTS_AT].selected);
 }
 
