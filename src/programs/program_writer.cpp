@@ -2,6 +2,7 @@
 
 #include "engine/errors.h"
 #include "persistence/text_file.h"
+#include "platform/platform.h"
 #include "programs/program.h"
 #include "programs/program_cache.h"
 #include "programs/program_files.h"
@@ -50,7 +51,9 @@ bool save_program() {
   if (program.name[0] == 0 || program.built_in) return true;
   forget_programs();  // a kept text would be the one before the edit
   remember_place(program.name, program.cursor, program.top);
-  return write_file(program_path(program.name), program_file_text(program));
+  if (write_file(program_path(program.name), program_file_text(program))) return true;
+  platform().show_message(("The program can't be saved: " + std::string(program.name)).c_str(), "Program Error");
+  return false;
 }
 
 }  // namespace zephyl

@@ -32,8 +32,8 @@ const char* program_title();
 
 // --- The program in memory
 
-// Writes it to its file if it has a name and is none of the built-in ones. False, with nothing said, if the
-// file could not be written; the file is then as it was. True also where there was nothing to write.
+// Writes it to its file if it has a name and is none of the built-in ones. False, with a box that says so, if
+// the file could not be written; it is then as it was. True also where there was nothing to write.
 bool save_program();
 
 }  // namespace zephyl

@@ -320,13 +320,13 @@ TEST_F(program_writer, never_leaves_half_a_file_behind) {
   }
 }
 
-TEST_F(program_writer, says_nothing_in_a_folder_that_is_read_only) {
+TEST_F(program_writer, says_that_a_folder_is_read_only_and_keeps_the_file) {
   load({"I: 12"});
   folder_.give_up_root();
   ::chmod(folder_.file("programs").c_str(), 0555);
   program.statement_count = 0;
   EXPECT_FALSE(save_program());
-  EXPECT_EQ(message(), "none");
+  EXPECT_EQ(message(), "Program Error | The program can't be saved: P");
   EXPECT_EQ(file_content(program_path_of("P")), "N: P\r\nV: 2.7A\r\nI: 12\r\n");
   ::chmod(folder_.file("programs").c_str(), 0777);
 }
