@@ -102,6 +102,8 @@ void bring_back_all() {
 
 }  // namespace
 
+bool is_evaluated_aside() { return has_kept; }
+
 void bring_back() {
   if (!has_kept) return;
   memory_restore_all(kept.memories);

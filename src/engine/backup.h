@@ -15,6 +15,8 @@ void back_up();
 void back_up_for(const TCompiled& compiled);
 // Brings back what is put away; nothing if nothing is.
 void bring_back();
+// True in between: something is evaluated on the side, and nothing else may be.
+bool is_evaluated_aside();
 
 // --- Owners of state that commands reach, once at start.
 

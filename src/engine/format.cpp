@@ -224,7 +224,7 @@ void print_polar_result(char* out, double re, double im, bool small, bool force)
   rect_to_polar(re, im, modulus, angle);
   TText a;
   print(a, "%s", format_result_part(modulus, small, force));
-  const bool aggregate = answers.str_ans_valid || (aggregate_answer() && !force);
+  const bool aggregate = aggregate_answer() && !force;
   const bool whole = errors.error_flag || aggregate || angle == 0.0 || std::isinf(modulus);
   if (whole) return print(out, "%s", a);
   const char base[] = {GLYPH_E, 0};

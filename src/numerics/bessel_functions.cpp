@@ -68,7 +68,7 @@ struct TBessel {
   double rjmu = 0.0, rymu = 0.0, ry1 = 0.0;
 
   TBessel(double at, double order) : x(at), nu(order) {
-    nl = x < XMIN ? static_cast<int>(nu + 0.5) : std::max(0, static_cast<int>(nu - x + 1.5));
+    nl = x < XMIN ? static_cast<int>(nu + 0.5) : static_cast<int>(std::max(0.0, nu - x + 1.5));
     xmu = nu - nl;
     xi = 1.0 / x;
     xi2 = 2.0 * xi;
@@ -82,6 +82,7 @@ bool recur_down(TBessel& bessel) {
   int sign = 1;
   double h = std::max(bessel.nu * bessel.xi, FPMIN);
   double b = bessel.xi2 * bessel.nu, c = h, d = 0.0;
+  if (!std::isfinite(bessel.xi2) || !std::isfinite(b)) return false;  // the overflow stands
   int round = 1;
   for (; round <= MAXIT; ++round) {
     b += bessel.xi2;

@@ -65,7 +65,7 @@ double complex_angle_radians(TValue z) {
 
 TValue complex_log(TValue z) {
   const double modulus = square_root_real(z.re * z.re + z.im * z.im);
-  if (!(modulus > 0.0)) {
+  if (modulus <= 0.0) {
     report_error(ERR_DOMAIN);
     return {};
   }

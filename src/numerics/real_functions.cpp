@@ -63,7 +63,7 @@ double factorial(double x) {
     report_error(ERR_OVERFLOW);
     return 0.0;
   }
-  return factorial_table[static_cast<int>(x)];
+  return factorial_table[static_cast<int>(int_part(x))];
 }
 
 TDecimalParts decimal_parts(double x) {

@@ -83,7 +83,8 @@ void plot_it() {
 
 const TSurface& shown_plot() {
   TPlotScreen& screen = plot_screen();
-  if (screen.needs_drawing) draw_plot(screen);
+  // A picture that is asked for in the middle of an evaluation on the side is the one that there is.
+  if (screen.needs_drawing && !is_evaluated_aside()) draw_plot(screen);
   return screen.marks_shown ? screen.marks : screen.plot;
 }
 
@@ -91,7 +92,7 @@ bool is_plotting() { return plot_screen().plotting; }
 
 void request_plot() {
   TPlotScreen& screen = plot_screen();
-  if (screen.plotting) return;
+  if (screen.plotting || is_evaluated_aside()) return;  // what such an evaluation changes is brought back
   screen.needs_drawing = true;
   if (state.calcMode == PLOT_MODE && !state.program_running) platform().invalidate(false);
 }
@@ -100,7 +101,7 @@ namespace {
 
 // A drawing command ran. What it drew shows at once; the plots follow when nothing is evaluated any more.
 void refresh_plot() {
-  if (plot_screen().plotting) return;
+  if (plot_screen().plotting || is_evaluated_aside()) return;
   request_plot();
   if (!plots_wait()) return;
   draw_plot(plot_screen());

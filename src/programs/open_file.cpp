@@ -12,6 +12,7 @@
 #include "programs/program_cache.h"
 #include "programs/program_files.h"
 #include "programs/program_reader.h"
+#include "programs/programs.h"
 
 namespace zephyl {
 
@@ -78,7 +79,9 @@ bool can_be_name(const std::string& name) {
 // Caches hold what the file said before, and so may the program in memory.
 void forget_old_text(const std::string& name) {
   forget_programs();
-  if (!program.built_in && name == program.name) load_program(name.c_str(), false);
+  if (program.built_in || name != program.name) return;
+  load_program(name.c_str(), false);
+  if (state.calcMode == PROGRAM_EDIT_MODE) platform().invalidate(false);
 }
 
 void add_program(const fs::path& path) {
@@ -101,7 +104,8 @@ void add_program(const fs::path& path) {
 }  // namespace
 
 void open_file(const std::string& path) {
-  if (errors.error_flag || state.program_running) return;
+  if (errors.error_flag || state.program_running || state.alpha_active) return;
+  if (state.calcMode == PROGRAM_EDIT_MODE && !save_program()) return;
   const fs::path file(path);
   const std::string extension = extension_of(file);
   if (extension != ".state" && extension != ".prgm")

@@ -340,10 +340,14 @@ TEST(format, force_gives_the_number_although_an_aggregate_answer_stands) {
   EXPECT_EQ(result(0, 5, false, true), "5e^(90i)");
 }
 
-TEST(format, in_polar_form_a_string_answer_leaves_only_the_modulus) {
+TEST(format, in_polar_form_a_number_has_its_angle_whatever_the_answer_is) {
   settings.complexFormat = ST_COMPLEX_P;
-  answers.str_ans_valid = true;
-  EXPECT_EQ(result(3, 4, false, true), "5");
+  for (bool* answer : {&answers.str_ans_valid, &answers.l_ans_valid, &answers.m_ans_valid}) {
+    *answer = true;
+    EXPECT_EQ(result(3, 4, false, true), "5e^(0.927295218i)");
+    EXPECT_EQ(result(-5, 0, false, true), "5e^(3.1415926536i)");
+    *answer = false;
+  }
 }
 
 TEST(format, a_string_answer_is_the_string) {

@@ -76,6 +76,20 @@ TEST_F(calculator, integer_part_of_a_large_number_is_nudged) {
   EXPECT_EQ(value("iPart(1e11)"), 100000000005.0);
 }
 
+TEST_F(calculator, an_overflow_inside_a_function_is_no_other_error) {
+  for (const char* text :
+       {"asin(1e200+1e200(i))", "acosh(1e200+1e200(i))", "Jn(1e9,1e-300)", "Jn(0,1e-308)", "Yn(0,1e-308)"})
+    EXPECT_EQ(error_of(text), "Overflow") << text;
+}
+
+TEST_F(calculator, bessel_functions_of_huge_arguments_come_to_an_end) {
+  for (const char* text : {"Jn(1,3e9)", "Jn(1,1e308)", "Yn(2,1e15)"}) EXPECT_EQ(error_of(text), "Domain Error") << text;
+}
+
+TEST_F(calculator, a_factorial_is_that_of_the_integer_that_a_number_counts_as) {
+  EXPECT_EQ(eval("2.99999999985!"), "6");
+}
+
 TEST_F(calculator, factorials_up_to_170) {
   EXPECT_EQ(value("170!"), 7.257415615307999e+306);
   EXPECT_EQ(eval("171!"), "Overflow");

@@ -270,6 +270,28 @@ TEST_F(dialog_window, a_table_wider_than_its_window_shows_all_its_lines) {
   EXPECT_GE(view->viewport()->height(), 9 * view->rowHeight(0));
 }
 
+TEST_F(dialog_window, hears_nothing_while_it_works_but_the_wish_to_end_it) {
+  open(of({edit_control("Value:", ""), button_control("Recalc", BUTTON_DEFAULT), button_control("Exit", BUTTON_CANCEL)}));
+  bool wished_before = true, wished_then = false;
+  then_ = [&](TDialog& told, const TDialogEvent&) {
+    told.keep_open();
+    wished_before = window_->cancel_wished();
+    press(Qt::Key_Return);
+    press(Qt::Key_Escape);
+    wished_then = window_->cancel_wished();
+  };
+  events_.clear();
+  press(Qt::Key_Return);
+  EXPECT_EQ(events_.size(), 1u);
+  EXPECT_FALSE(wished_before);
+  EXPECT_TRUE(wished_then);
+  EXPECT_FALSE(window_->cancel_wished());
+  EXPECT_FALSE(dialog().closed());
+  then_ = nullptr;
+  press(Qt::Key_Escape);
+  EXPECT_TRUE(dialog().closed());
+}
+
 TEST_F(dialog_window, escape_and_closing_are_cancel) {
   for (const bool by_key : {true, false}) {
     open(of({edit_control("Value:", ""), button_control("OK", BUTTON_DEFAULT),

@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "engine/errors.h"
+#include "engine/state.h"
 #include "programs/program.h"
 #include "programs/program_cache.h"
 #include "programs/program_files.h"
@@ -46,6 +47,33 @@ TEST_F(opened_files, the_extension_may_be_in_capitals) {
 TEST_F(opened_files, a_state_of_a_later_release_is_refused) {
   open("monday.state", "V: 2.8\r\nR: 10:1.5\r\n");
   EXPECT_EQ(message(), "Error | The state file requires a more recent revision of Zephyl in order to load.");
+  EXPECT_EQ(eval("A"), "0");
+}
+
+TEST_F(opened_files, a_program_under_edit_is_saved_before) {
+  make_file(program_path_of("One"), ONE);
+  ASSERT_EQ(load_program("One", false), 2);
+  state.calcMode = PROGRAM_EDIT_MODE;
+  program.statement_count = 1;
+  open("monday.state", "V: 2.7A\r\nR: 10:1.5\r\nO: 19:1\r\n");
+  EXPECT_EQ(kept("One"), "N: One\r\nV: 2.7A\r\nI: 11\r\nE: 33,3010,\r\n");
+}
+
+TEST_F(opened_files, the_program_under_edit_shows_anew) {
+  make_file(program_path_of("One"), ONE);
+  ASSERT_EQ(load_program("One", false), 2);
+  state.calcMode = PROGRAM_EDIT_MODE;
+  platform_.answer = true;
+  platform_.paint_requested = false;
+  open("One.prgm", ANOTHER);
+  EXPECT_EQ(program.statement_count, 1);
+  EXPECT_TRUE(platform_.paint_requested);
+}
+
+TEST_F(opened_files, wait_for_no_text_that_is_being_written) {
+  state.alpha_active = true;
+  open("monday.state", "V: 2.7A\r\nR: 10:1.5\r\n");
+  state.alpha_active = false;
   EXPECT_EQ(eval("A"), "0");
 }
 

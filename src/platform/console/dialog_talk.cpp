@@ -1,5 +1,6 @@
 #include "platform/console/dialog_talk.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <vector>
@@ -73,7 +74,9 @@ void print_rows(const TControl& control) {
 
 // "+3" or "-3" rows; 0 for anything else.
 int rows_to_scroll(const std::string& line) {
-  return !line.empty() && (line[0] == '+' || line[0] == '-') ? std::atoi(line.c_str()) : 0;
+  constexpr long farthest = 1000000;
+  const bool is_way = !line.empty() && (line[0] == '+' || line[0] == '-');
+  return is_way ? static_cast<int>(std::clamp(std::strtol(line.c_str(), nullptr, 10), -farthest, farthest)) : 0;
 }
 
 bool work_rows(TDialog& dialog, int control, const TAsk& ask) {

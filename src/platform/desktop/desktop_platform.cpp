@@ -8,8 +8,9 @@
 #include <QUrl>
 #include <chrono>
 #include <clocale>
+#include <utility>
 
-#include "faceplate/key_tables.h"
+#include "faceplate/hit_test.h"
 #include "platform/desktop/clipboard.h"
 #include "platform/desktop/dialogs/dialog_window.h"
 #include "platform/desktop/file_question.h"
@@ -22,11 +23,14 @@ namespace zephyl {
 
 namespace {
 
-constexpr int AC_KEY = 27;
 
-TPoint centre_of_ac() {
-  const TRect key = calculator_keys.rows[AC_KEY].rect();
-  return {(key.left + key.right) / 2 + calculator_keys.dx, (key.top + key.bottom) / 2 + calculator_keys.dy};
+// On a key of the screen that shows, one that ends an evaluation.
+TPoint point_that_cancels() {
+  constexpr int step = 4;  // no key is smaller
+  for (int y = 0; y < SCREEN_HEIGHT; y += step)
+    for (int x = 0; x < SCREEN_WIDTH; x += step)
+      if (tap_kind(x, y) == TAP_KEY) return {x, y};
+  return {};
 }
 
 }  // namespace
@@ -183,13 +187,13 @@ TLocalTime TDesktopPlatform::local_time() {
 
 void TDesktopPlatform::sleep(std::uint32_t milliseconds) { QThread::msleep(milliseconds); }
 
-// Escape and the wish to close show themselves as a tap on AC: taps are looked for ten times as often as
+// Escape and the wish to close show themselves as a tap on a key: taps are looked for ten times as often as
 // cancels.
 bool TDesktopPlatform::peek_pen_down(TPoint& at) {
   QCoreApplication::processEvents();
   if (queue_.find_pen_down(at)) return true;
-  at = centre_of_ac();
-  return queue_.holds_cancel() && !cancel_let_pass_;
+  at = point_that_cancels();
+  return cancel_waits() && !cancel_let_pass_;
 }
 
 void TDesktopPlatform::remove_pen_down() {
@@ -202,7 +206,11 @@ void TDesktopPlatform::remove_pen_down() {
 
 bool TDesktopPlatform::peek_cancel() {
   QCoreApplication::processEvents();
-  return queue_.holds_cancel();
+  return cancel_waits();
+}
+
+bool TDesktopPlatform::cancel_waits() const {
+  return queue_.holds_cancel() || (open_dialog_ && open_dialog_->cancel_wished());
 }
 
 void TDesktopPlatform::invalidate(bool at_once) {
@@ -271,7 +279,10 @@ void TDesktopPlatform::run_dialog(TDialog& dialog) {
   if (dialog.closed()) return;
   const TBoxOpen open(*this);
   invalidate(false);  // the key that opened it is drawn released
-  TDialogWindow(dialog, front_window(), window_.zoom()).run();
+  TDialogWindow window(dialog, front_window(), window_.zoom());
+  TDialogWindow* const below = std::exchange(open_dialog_, &window);
+  window.run();
+  open_dialog_ = below;
 }
 
 bool TDesktopPlatform::choose_file(const TFileQuestion& question, std::string& path) {

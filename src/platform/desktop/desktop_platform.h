@@ -15,6 +15,8 @@
 
 namespace zephyl {
 
+class TDialogWindow;
+
 class TDesktopPlatform : public TPlatform {
  public:
   // The QApplication must exist. folder: the data folder. help_file: what shows as help, "" for nothing.
@@ -62,6 +64,8 @@ class TDesktopPlatform : public TPlatform {
   void dispatch(const TInput& input);
   void open_next();
   void compose();
+  // The user wishes that what is evaluated ends: from the window, or from the dialog above it.
+  bool cancel_waits() const;
   // What a new box stands above.
   QWidget* front_window();
   class TBoxOpen;
@@ -76,6 +80,7 @@ class TDesktopPlatform : public TPlatform {
   TClickSound click_;
   bool paint_requested_ = true;
   bool working_ = false;  // calculator code is on the stack
+  TDialogWindow* open_dialog_ = nullptr;  // the uppermost
   int boxes_open_ = 0;    // dialogs and message boxes, each above the one before
   bool composing_ = false;
   bool stopped_ = false;

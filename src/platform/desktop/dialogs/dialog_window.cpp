@@ -51,7 +51,7 @@ TDialogWindow::TDialogWindow(TDialog& dialog, QWidget* parent, int picture_zoom)
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   connect(&ticks_, &QTimer::timeout, this, [this] {
-    if (!working_) act([](TDialog& told) { told.tell(DIALOG_TICK); });
+    act([](TDialog& told) { told.tell(DIALOG_TICK); });
   });
   sync();
   focus_first();
@@ -85,14 +85,17 @@ QWidget* TDialogWindow::widget_of(int control) const {
 }
 
 void TDialogWindow::act(const std::function<void(TDialog&)>& act) {
-  if (syncing_ || dialog_.closed()) return;
-  ++working_;
+  if (syncing_ || working_ || dialog_.closed()) return;
+  working_ = true;
   act(dialog_);
-  --working_;
+  working_ = cancel_wished_ = false;
   follow();
 }
 
-void TDialogWindow::reject() { act(cancel_dialog); }
+void TDialogWindow::reject() {
+  cancel_wished_ = working_;
+  act(cancel_dialog);
+}
 
 void TDialogWindow::follow() {
   if (dialog_.closed()) {

@@ -21,6 +21,10 @@ class TDialogWindow : public QDialog, private TDialogUser {
   // Shows it until the dialog is closed.
   void run();
 
+  // True if the user wished by Escape or the close button that what the dialog is working on ends. Nothing else
+  // that the user does is heard meanwhile.
+  bool cancel_wished() const { return cancel_wished_; }
+
   // The control whose widget this is; -1 none. And the widget that works a control, null if there is none.
   int control_of(const QWidget* widget) const;
   QWidget* widget_of(int control) const;
@@ -56,7 +60,8 @@ class TDialogWindow : public QDialog, private TDialogUser {
   std::vector<int> shape_;  // of the controls that the widgets were made for
   QTimer ticks_;
   bool syncing_ = false;
-  int working_ = 0;  // the procedure is on the stack, perhaps with another dialog above this one
+  bool working_ = false;  // the procedure is on the stack, perhaps with another dialog above this one
+  bool cancel_wished_ = false;
 };
 
 }  // namespace zephyl
