@@ -3,6 +3,7 @@
 #include "engine/state.h"
 #include "stats/stats.h"
 #include "support/calculator.h"
+#include "support/golden.h"
 
 namespace zephyl {
 
@@ -97,6 +98,55 @@ TEST_F(stats_plots, the_smallest_ranges_have_their_places_too) {
   EXPECT_EQ(values_in_bin(stats.x, 3, 9, 10), 1);
   EXPECT_EQ(line_chart_picture().pixel(24 + 196, 8), BLACK);
   EXPECT_EQ(scatter_picture().pixel(9 + 104, 180 - 86), PLOT_MARK);
+}
+
+TEST_F(stats_plots, bars_are_as_high_as_their_counts) {
+  one_variable({1, 1, 1, 2, 3, 3});
+  histogram = {3, 1};
+  const TSurface picture = histogram_picture();
+  const int columns[] = {24, 24 + 197 / 3, 24 + 2 * 197 / 3, 24 + 197};
+  EXPECT_EQ(picture.pixel(columns[0] + 1, 8 + 1), PLOT_MARK);
+  EXPECT_EQ(picture.pixel(columns[1] + 1, 210 - 202 / 3 + 1), rgb(192, 192, 255)) << "the selected bin";
+  EXPECT_EQ(picture.pixel(columns[1] + 1, 210 - 202 / 3 - 2), WHITE);
+  EXPECT_EQ(picture.pixel(columns[2] + 1, 210 - 2 * 202 / 3 + 2), PLOT_MARK);
+  EXPECT_EQ(picture.pixel(columns[2] + 1, 210 - 2 * 202 / 3 - 2), WHITE);
+  EXPECT_EQ(picture.pixel(columns[3], 200), PLOT_FRAME);
+}
+
+TEST_F(stats_plots, look_as_they_did) {
+  one_variable({2, 3, 3, 4, 4, 4, 5, 5, 7, 9});
+  histogram = {5, 1};
+  expect_picture("stats_histogram", histogram_picture());
+  expect_picture("stats_line_chart", line_chart_picture());
+}
+
+TEST_F(stats_plots, of_two_variables_look_as_they_did) {
+  two_variables({1, 2.1, 2, 3.8, 3, 6.5, 4, 7.1, 5, 11.2, 6, 11.9, 7, 16});
+  histogram = {4, 3};
+  expect_picture("stats_two_histograms", histogram_picture());
+  expect_picture("stats_two_line_charts", line_chart_picture());
+  for (const int model : {R_LINEAR, R_LOGARITHMIC, R_EXPON, R_POWER}) {
+    settings.statsRegress = model;
+    expect_picture("stats_scatter_" + std::to_string(model), scatter_picture());
+  }
+}
+
+TEST_F(stats_plots, of_one_row_and_of_equal_rows_have_no_curve) {
+  two_variables({3, 4});
+  EXPECT_EQ(scatter_picture().pixel(9, 180), PLOT_MARK);
+  histogram = {5, 0};
+  EXPECT_EQ(values_in_bin(stats.y, 1, 0, 5), 1);
+  platform_.dialog_answers.push_back(
+      [](TDialog& dialog) { EXPECT_EQ(dialog[1].text, "a=error, b=error, r=error"); });
+  show_scatter_plot();
+  one_variable({3, 4, 3, 4});
+  const TSurface equal = scatter_picture();
+  for (int x = 12; x < 210; ++x) EXPECT_EQ(equal.pixel(x, 100), WHITE);
+  platform_.dialog_answers.push_back([](TDialog& dialog) {
+    EXPECT_EQ(dialog[find_control(dialog, "x Plot")].text, "min>=3.0000, max<3.0000, n=3");
+    EXPECT_EQ(dialog[find_control(dialog, "y Plot")].text, "min>=4.0000, max<4.0000, n=3");
+  });
+  show_histogram();
 }
 
 TEST_F(stats_plots, fewer_bins_clip_the_selection) {

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "engine/records.h"
 #include "support/calculator.h"
 
 namespace zephyl {
@@ -89,6 +90,16 @@ TEST_F(elements, a_symbol_or_count_of_120_characters_is_too_long) {
   eval("\"" + letters + "\"->str2");
   EXPECT_EQ(eval("molecMass(\"H\"+str1+str1)"), "Memory Limit Error");
   EXPECT_EQ(eval("molecMass(str2+str2)"), "Memory Limit Error");
+}
+
+TEST_F(elements, a_formula_may_be_as_long_as_a_string) {
+  TString& text = stores.strings[0];
+  for (std::size_t i = 0; i + 2 < sizeof text.text; i += 2) std::memcpy(text.text + i, "H1", 2);
+  text.text[sizeof text.text - 1] = 0;
+  if (std::strlen(text.text) % 2) text.text[std::strlen(text.text) - 1] = 0;
+  const double hydrogens = static_cast<double>(std::strlen(text.text) / 2);
+  EXPECT_GT(hydrogens, 400.0);
+  EXPECT_NEAR(value("molecMass(str1)"), hydrogens * 1.00794, 1e-9);
 }
 
 TEST_F(elements, an_empty_formula_is_no_error) { EXPECT_EQ(eval("molecMass(str9)"), "0"); }
