@@ -2,6 +2,7 @@
 // holds something of everything (dialog_visit.h) to the one that opens the dialog.
 #pragma once
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,9 @@ namespace zephyl {
 struct TDialogRoad {
   int id;
   std::vector<std::string> way;
+
+  // As a test's parameter it goes by its number.
+  friend void PrintTo(const TDialogRoad& road, std::ostream* out) { *out << "dialog " << road.id; }
 };
 
 const std::vector<TDialogRoad>& dialog_roads();
