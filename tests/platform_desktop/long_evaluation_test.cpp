@@ -1,14 +1,19 @@
 // While an evaluation runs, input waits in the queue; some of it abandons the evaluation.
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QThread>
+#include <QTimer>
 
 #include "engine/errors.h"
+#include "engine/field_value.h"
 #include "engine/hooks.h"
 #include "engine/poll.h"
 #include "faceplate/key_tables.h"
+#include "platform/desktop/dialogs/dialog_window.h"
+#include "platform/dialog.h"
 #include "platform_desktop/desktop.h"
 
 using namespace zephyl;
@@ -84,6 +89,45 @@ TEST_F(long_evaluation, escape_abandons_it_and_clears) {
   EXPECT_LT(slow_operands, 3);
   EXPECT_FALSE(errors.error_flag);
   EXPECT_EQ(entry(), "");
+}
+
+TEST_F(long_evaluation, of_a_dialog_is_ended_by_escape_there_and_by_nothing_that_came_before) {
+  hooks.next_random = slow_random;
+  TDialog dialog(1, "Slow");
+  dialog.add(button_control("Go"));
+  dialog.add(button_control("Exit", BUTTON_CANCEL));
+  std::vector<std::string> errors_told;
+  dialog.procedure = [&](TDialog&, const TDialogEvent& event) {
+    if (event.kind != CONTROL_ACTIVATED || event.control != 0) return;
+    double value = 0.0;
+    std::string error;
+    slow_operands = 0;
+    field_value("(Rand)+(Rand)+(Rand)", value, error);
+    errors_told.push_back(error);
+  };
+  bool closed_too_early = false;
+  QTimer::singleShot(0, [&] {
+    auto* const box = dynamic_cast<TDialogWindow*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    auto* const go = dynamic_cast<QPushButton*>(box->widget_of(0));
+    ASSERT_NE(go, nullptr);
+    const auto escape = [box] {
+      QKeyEvent event(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+      QCoreApplication::sendEvent(box, &event);
+    };
+    during_evaluation = [] {};
+    go->click();
+    during_evaluation = escape;
+    go->click();
+    closed_too_early = dialog.closed();
+    escape();
+  });
+  send_tap(inside_key(23));
+  send_key(Qt::Key_Escape);
+  platform_->run_dialog(dialog);
+  EXPECT_EQ(errors_told, (std::vector<std::string>{"", "Operation Canceled"}));
+  EXPECT_FALSE(closed_too_early);
+  EXPECT_TRUE(dialog.closed());
 }
 
 TEST_F(long_evaluation, characters_wait_for_its_end) {

@@ -187,18 +187,26 @@ TLocalTime TDesktopPlatform::local_time() {
 
 void TDesktopPlatform::sleep(std::uint32_t milliseconds) { QThread::msleep(milliseconds); }
 
+// What waits for the window to be free again doesn't concern the dialog above it.
+bool TDesktopPlatform::find_pen_down(TPoint& at) const { return !open_dialog_ && queue_.find_pen_down(at); }
+
+bool TDesktopPlatform::cancel_waits() const {
+  return open_dialog_ ? open_dialog_->cancel_wished() : queue_.holds_cancel();
+}
+
 // Escape and the wish to close show themselves as a tap on a key: taps are looked for ten times as often as
 // cancels.
 bool TDesktopPlatform::peek_pen_down(TPoint& at) {
   QCoreApplication::processEvents();
-  if (queue_.find_pen_down(at)) return true;
+  if (find_pen_down(at)) return true;
+  if (!cancel_waits() || cancel_let_pass_) return false;
   at = point_that_cancels();
-  return cancel_waits() && !cancel_let_pass_;
+  return true;
 }
 
 void TDesktopPlatform::remove_pen_down() {
   TPoint at;
-  if (queue_.find_pen_down(at))
+  if (find_pen_down(at))
     queue_.remove_pen_down();
   else
     cancel_let_pass_ = true;
@@ -207,10 +215,6 @@ void TDesktopPlatform::remove_pen_down() {
 bool TDesktopPlatform::peek_cancel() {
   QCoreApplication::processEvents();
   return cancel_waits();
-}
-
-bool TDesktopPlatform::cancel_waits() const {
-  return queue_.holds_cancel() || (open_dialog_ && open_dialog_->cancel_wished());
 }
 
 void TDesktopPlatform::invalidate(bool at_once) {

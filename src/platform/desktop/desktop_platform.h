@@ -64,7 +64,8 @@ class TDesktopPlatform : public TPlatform {
   void dispatch(const TInput& input);
   void open_next();
   void compose();
-  // The user wishes that what is evaluated ends: from the window, or from the dialog above it.
+  // The user wishes that what is evaluated ends: in the window or, while there is one, in the dialog above it.
+  bool find_pen_down(TPoint& at) const;
   bool cancel_waits() const;
   // What a new box stands above.
   QWidget* front_window();
