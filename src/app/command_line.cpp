@@ -55,4 +55,11 @@ bool read_files(const TUsage& usage, int count, char** arguments, std::vector<st
   return true;
 }
 
+std::optional<int> answered(const TUsage& usage, int count, char** arguments) {
+  if (answer_question(usage, count, arguments)) return 0;
+  std::vector<std::string> no_files;
+  if (!read_files(usage, count, arguments, no_files)) return USAGE_ERROR;
+  return std::nullopt;
+}
+
 }  // namespace zephyl

@@ -1,6 +1,7 @@
 // The words behind a program's name: --version, --help and files.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,5 +21,8 @@ bool answer_question(const TUsage& usage, int count, char** arguments);
 // has been told, and the program is to end with USAGE_ERROR.
 bool read_files(const TUsage& usage, int count, char** arguments, std::vector<std::string>& files);
 constexpr int USAGE_ERROR = 2;
+
+// Of a program that takes no files: the exit code, where the words leave it nothing to do.
+std::optional<int> answered(const TUsage& usage, int count, char** arguments);
 
 }  // namespace zephyl

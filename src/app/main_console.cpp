@@ -15,9 +15,7 @@ constexpr zephyl::TUsage USAGE = {"zephyl-console", "Computes the expressions th
 }  // namespace
 
 int main(int count, char** arguments) {
-  if (zephyl::answer_question(USAGE, count, arguments)) return 0;
-  std::vector<std::string> no_files;
-  if (!zephyl::read_files(USAGE, count, arguments, no_files)) return zephyl::USAGE_ERROR;
+  if (const std::optional<int> code = zephyl::answered(USAGE, count, arguments)) return *code;
   const bool interactive = isatty(STDIN_FILENO) != 0;
   zephyl::TConsolePlatform platform(interactive);
   zephyl::set_platform(&platform);

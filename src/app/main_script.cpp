@@ -13,9 +13,7 @@ constexpr zephyl::TUsage USAGE = {"zephyl-script", "Obeys commands on standard i
 }  // namespace
 
 int main(int count, char** arguments) {
-  if (zephyl::answer_question(USAGE, count, arguments)) return 0;
-  std::vector<std::string> no_files;
-  if (!zephyl::read_files(USAGE, count, arguments, no_files)) return zephyl::USAGE_ERROR;
+  if (const std::optional<int> code = zephyl::answered(USAGE, count, arguments)) return *code;
   zephyl::TScriptPlatform platform;
   zephyl::set_platform(&platform);
   zephyl::register_families();

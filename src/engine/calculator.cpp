@@ -55,7 +55,7 @@ void answer_function_prompt() {
 const TCompiled& last_compiled() { return compiled; }
 
 bool evaluate_expression(bool compile_only) {
-  if (state.program_running && !state.at_prompt) return false;
+  if (program_works()) return false;
   if (state.at_function_prompt) {
     answer_function_prompt();
     return false;

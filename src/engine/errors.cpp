@@ -109,7 +109,7 @@ void report_error(TError code, const char* file, int line) {
   errors.error_flag = true;
   errors.error_in_program = false;
   TRunningProgram program{};
-  const bool counts_lines = code == ERR_PROGRAM_STOPPED || (state.program_running && !state.at_prompt);
+  const bool counts_lines = code == ERR_PROGRAM_STOPPED || program_works();
   if (counts_lines && hooks.running_program(program)) note_program_line(program);
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cfenv>
+#include <type_traits>
 #if defined(__SSE2__)
 #include <xmmintrin.h>
 #endif
@@ -26,7 +27,7 @@ bool report_fault();
 
 // What the function makes of the arguments, called so that the compiler can't see into it; its fault is reported.
 template <class TResult, class... TParameters>
-TResult reporting_faults(TResult (*function)(TParameters...), TParameters... arguments) {
+TResult reporting_faults(TResult (*function)(TParameters...), std::type_identity_t<TParameters>... arguments) {
   clear_faults();
   TResult (*volatile opaque)(TParameters...) = function;
   const TResult result = opaque(arguments...);

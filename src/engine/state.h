@@ -62,6 +62,9 @@ struct TState {
 };
 extern TState state;
 
+// A program runs and asks for nothing: what is entered and evaluated by keys has to wait.
+inline bool program_works() { return state.program_running && !state.at_prompt; }
+
 void reset_settings();
 void reset_state();
 

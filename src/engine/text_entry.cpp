@@ -16,12 +16,10 @@ namespace {
 
 constexpr int REASON_SIZE = 200;
 
-bool program_is_busy() { return state.program_running && !state.at_prompt; }
-
 // Why no token would be taken now; null if one would.
 const char* refusal() {
   if (errors.error_flag) return "an error stands";
-  if (program_is_busy()) return "a program runs";
+  if (program_works()) return "a program runs";
   return nullptr;
 }
 

@@ -89,8 +89,7 @@ void on_stop() {
 
 void on_pen_down(int x, int y) {
   state.swallow_up = false;
-  const bool program_works = state.program_running && !state.at_prompt;
-  if (!state.alpha_active && !program_works) cursor_to_tap(x, y);
+  if (!state.alpha_active && !program_works()) cursor_to_tap(x, y);
   if (!state.alpha_active && state.calcMode == PROGRAM_EDIT_MODE) select_tapped_statement(x, y);
   if (!state.alpha_active && plot_pen_down(x, y)) return;
   handle_faceplate_input(x, y, -1, -1);

@@ -22,8 +22,7 @@ const TMeaning& wanted_meaning(const TKeyRow& row) {
 }
 
 bool refused(const TMeaning& meaning) {
-  const bool running = state.program_running && !state.at_prompt;
-  return ((meaning.refused & NOT_RUNNING) && running) ||
+  return ((meaning.refused & NOT_RUNNING) && program_works()) ||
          ((meaning.refused & NOT_ON_ERROR) && errors.error_flag);
 }
 

@@ -36,8 +36,6 @@ int unknown_mode(bool& needs_repaint) {
   return KEY_CONSUMED;
 }
 
-bool program_works() { return state.program_running && !state.at_prompt; }
-
 // A program that watches the view keys takes them for itself.
 bool program_takes(int key) {
   const bool watched = state.calcMode == PLOT_MODE && state.program_running && state.plot_button != -1;

@@ -21,7 +21,7 @@ constexpr int CALCULATION_COUNT = 7;
 struct TPlotCalculation {
   int calculation = CALCULATE_VALUE;
   int function = 0;  // a function, a curve, or a pair of a parametric plot, from 0
-  int pair = 0;      // of functions that may cross: a row of function_pairs()
+  int pair = 0;      // of functions that may cross: a row of function_pair
   double value = 0.0;
 };
 extern TPlotCalculation plot_calculation;

@@ -61,7 +61,7 @@ void set_plot_cursor(int cursor) {
 }
 
 void enter_plot_function() {
-  if (state.program_running && !state.at_prompt) return;
+  if (program_works()) return;
   evaluate_expression(true);
   if (errors.error_flag) return;
   const int slot = free_plot_slot();

@@ -65,8 +65,7 @@ bool description_may_stand() {
   if (first || behind_func) return true;
   return refuse(
       "A program description statement must appear on the first line of a program or the second line of a "
-      "program if "
-      "a function statement is on the first line.");
+      "program if a function statement is on the first line.");
 }
 
 bool func_may_stand() {
@@ -81,8 +80,7 @@ bool other_may_stand() {
   if (program.cursor == 1 && stands(0, STATEMENT_FUNC) && stands(1, STATEMENT_DESCRIPTION))
     return refuse(
         "Can't add statement here. The function statement and program description statement must appear on "
-        "the first "
-        "two lines of a program.");
+        "the first two lines of a program.");
   return true;
 }
 
@@ -177,10 +175,8 @@ void note_unsupported_statements() {
     return;
   platform().show_message(
       "The program statements Call, In, In f(), Rtn call, Text, and Menu statements are not supported in a "
-      "custom "
-      "function. The Out statement is supported for saving values globally but the 'Pause?' and Text "
-      "'Label?' options "
-      "are ignored.",
+      "custom function. The Out statement is supported for saving values globally but the 'Pause?' and Text "
+      "'Label?' options are ignored.",
       "Program Note");
 }
 

@@ -86,7 +86,7 @@ void end_pause() { state.key_wait = false; }
 
 bool program_can_be_stopped() { return state.program_running && run.key_run; }
 
-const char* program_prompt_line() { return state.program_running && !state.at_prompt ? run.prompt_line : ""; }
+const char* program_prompt_line() { return program_works() ? run.prompt_line : ""; }
 
 const char* program_title() {
   if (state.calcMode == PROGRAM_EDIT_MODE) return program.name;

@@ -136,8 +136,11 @@ TEST_F(key_path, a_typed_brace_leaves_no_shift_behind) {
 TEST_F(key_path, a_tap_on_the_line_moves_no_cursor_while_a_program_works) {
   tap_keys({33, 36, 33});
   state.program_running = true;
-  on_pen_down(7, 15);
+  on_pen_down(22, 15);
   EXPECT_EQ(entry_line.cursor, 3);
+  state.program_running = false;
+  on_pen_down(22, 15);
+  EXPECT_EQ(entry_line.cursor, 0);
 }
 
 TEST_F(key_path, tabs_and_scrolling_leave_a_pause_standing) {

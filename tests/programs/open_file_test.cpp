@@ -70,7 +70,7 @@ TEST_F(opened_files, the_program_under_edit_shows_anew) {
   EXPECT_TRUE(platform_.paint_requested);
 }
 
-TEST_F(opened_files, wait_for_no_text_that_is_being_written) {
+TEST_F(opened_files, are_not_taken_while_a_text_is_written) {
   state.alpha_active = true;
   open("monday.state", "V: 2.7A\r\nR: 10:1.5\r\n");
   state.alpha_active = false;

@@ -21,6 +21,13 @@ class money_dialogs : public calculator {
     EXPECT_TRUE(press_button(dialog, find_control(dialog, button))) << button;
   }
   std::string text(TDialog& dialog, const char* field) { return dialog[find_control(dialog, field)].text; }
+  // 1000 at 6 percent, paid back by 10 a month.
+  void take_loan(double months) {
+    set_tvm_value(TVM_N, months);
+    set_tvm_value(TVM_I, 6.0);
+    set_tvm_value(TVM_PV, 1000.0);
+    set_tvm_value(TVM_PMT, -10.0);
+  }
   void in_solver(std::function<void(TDialog&)> act) {
     platform_.dialog_answers.push_back(std::move(act));
     show_tvm_solver();
@@ -165,10 +172,7 @@ TEST_F(money_dialogs, each_unknown_is_solved) {
 }
 
 TEST_F(money_dialogs, a_schedule_has_a_row_for_each_payment_up_to_2000) {
-  set_tvm_value(TVM_N, 2000.0);
-  set_tvm_value(TVM_I, 6.0);
-  set_tvm_value(TVM_PV, 1000.0);
-  set_tvm_value(TVM_PMT, -10.0);
+  take_loan(2000.0);
   platform_.dialog_answers.push_back([](TDialog& dialog) {
     ASSERT_EQ(dialog[0].rows.size(), 2000u);
     EXPECT_EQ(dialog[0].rows[0], "1\t-5\t-5\t995");
@@ -198,10 +202,7 @@ TEST_F(money_dialogs, a_schedule_without_payments_has_no_rows) {
 TEST_F(money_dialogs, a_schedule_has_whole_payments_only_in_the_number_format) {
   settings.numberFormat = FORMAT_FIXED;
   settings.decimalDigits = 2;
-  set_tvm_value(TVM_N, 2.9);
-  set_tvm_value(TVM_I, 6.0);
-  set_tvm_value(TVM_PV, 1000.0);
-  set_tvm_value(TVM_PMT, -10.0);
+  take_loan(2.9);
   platform_.dialog_answers.push_back([](TDialog& dialog) {
     EXPECT_EQ(dialog[0].rows, (std::vector<std::string>{"1\t-5.00\t-5.00\t995.00", "2\t-5.02\t-4.98\t989.98"}));
   });

@@ -71,7 +71,7 @@ void solve(TDialog& dialog, int unknown) {
   clear_error();
   TControl& button = dialog[FIRST_SOLVE + unknown];
   button.enabled = unknown != TVM_I;
-  const double value = reporting_faults<double, const TvmState&, int>(solve_tvm, tvm_state, unknown);
+  const double value = reporting_faults(solve_tvm, tvm_state, unknown);
   button.enabled = true;
   if (errors.error_flag) {
     platform().show_message(errors.error_text, "TVM Solver");
